@@ -1,0 +1,39 @@
+// Finds rows by where they are: a grid of whole degrees over the world. It
+// answers with row numbers in ascending order, as a scan from row 0 would meet
+// them, so "first wins", "last wins" and every tie come out the same.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "navdata/geodesy.h"
+
+// A box of latitudes and longitudes in degrees. West greater than east: the
+// box crosses the date line.
+struct GeoBox {
+  float south = -90;
+  float west = -180;
+  float north = 90;
+  float east = 180;
+};
+
+class PlaceIndex {
+ public:
+  PlaceIndex() = default;
+
+  // positions[row] is the row's place; rows that skip[row] marks (if given)
+  // and rows whose place is no number are left out. Latitudes beyond a pole
+  // and longitudes beyond 180 are kept in the outermost cells.
+  static PlaceIndex Build(const std::vector<Position>& positions, const std::vector<bool>* skip = nullptr);
+
+  // Rows whose cell touches the box, ascending: every row inside the box and
+  // some near it. The caller tests the exact condition.
+  std::vector<std::int32_t> Near(const GeoBox& box) const;
+
+  // Likewise for a circle, radius in NM (also over a pole and the date line).
+  std::vector<std::int32_t> Near(Position centre, double radiusNM) const;
+
+ private:
+  std::vector<std::uint32_t> cellStart;  // 180 x 360 cells + 1
+  std::vector<std::int32_t> rows;        // by cell, ascending within one
+};
