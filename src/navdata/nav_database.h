@@ -19,6 +19,13 @@ struct NavDatabase {
   // Rows 0 to 40000 of the intersection table.
   static constexpr std::int32_t intersectionRows = 40001;
 
+  // The ident indexes point into the tables: moving keeps them, copying would not.
+  NavDatabase() = default;
+  NavDatabase(NavDatabase&&) = default;
+  NavDatabase& operator=(NavDatabase&&) = default;
+  NavDatabase(const NavDatabase&) = delete;
+  NavDatabase& operator=(const NavDatabase&) = delete;
+
   std::vector<FixedText<30>> regions;
   std::vector<CountryRec> countries;
   std::vector<StateRec> states;
