@@ -1,0 +1,13 @@
+// The airways: jet first, victor above them.
+#pragma once
+
+#include "map/map_layer.h"
+
+MapLayer JetAirwayLayer();
+MapLayer VictorAirwayLayer();
+
+// The segments with at least one end in the visibility box grown by the
+// navaids' margin, in table order. Segments that name a row outside the
+// intersection table are left out.
+std::vector<const AirwaySegmentRec*> SegmentsInView(const MapView& view, const NavDatabase& database,
+                                                    const std::vector<AirwaySegmentRec>& segments);

@@ -1,0 +1,51 @@
+#include "map/geo_line.h"
+
+#include <algorithm>
+#include <cmath>
+
+void AppendMapLine(const Projection& projection, Position from, Position to,
+                   std::vector<SurfaceLine>& lines) {
+  const auto point = [&](Position place) {
+    return SurfacePoint{static_cast<float>(projection.LonToX(place.lon)),
+                        static_cast<float>(projection.LatToY(place.lat))};
+  };
+  const SurfacePoint a = point(from);
+  const SurfacePoint b = point(to);
+  const auto world = static_cast<float>(projection.UnwrappedX(360) - projection.UnwrappedX(0));
+  if (std::abs(a.x - b.x) <= world / 2) {
+    lines.push_back({a, b});
+    return;
+  }
+  const float turn = a.x < b.x ? world : -world;
+  lines.push_back({a, {b.x - turn, b.y}});
+  lines.push_back({{a.x + turn, a.y}, b});
+}
+
+std::vector<Position> GreatCirclePlaces(Position from, Position to, double stepNM) {
+  const double distance = GreatCircleDistance(from.lat, from.lon, to.lat, to.lon);
+  const int steps = std::clamp(static_cast<int>(std::ceil(distance / stepNM)), 1, 1000);
+  const double angle = DegToRad(distance / 60);
+  const double sine = std::sin(angle);
+  if (steps == 1 || std::abs(sine) < 1e-6) return {from, to};
+  struct Vector {
+    double x, y, z;
+  };
+  const auto vector = [](Position p) {
+    const double lat = DegToRad(p.lat);
+    const double lon = DegToRad(p.lon);
+    return Vector{std::cos(lat) * std::cos(lon), std::cos(lat) * std::sin(lon), std::sin(lat)};
+  };
+  const Vector a = vector(from);
+  const Vector b = vector(to);
+  std::vector<Position> places{from};
+  for (int step = 1; step < steps; ++step) {
+    const double part = static_cast<double>(step) / steps;
+    const double wa = std::sin((1 - part) * angle) / sine;
+    const double wb = std::sin(part * angle) / sine;
+    const Vector v{wa * a.x + wb * b.x, wa * a.y + wb * b.y, wa * a.z + wb * b.z};
+    places.push_back({static_cast<float>(RadToDeg(std::atan2(v.z, std::hypot(v.x, v.y)))),
+                      static_cast<float>(RadToDeg(std::atan2(v.y, v.x)))});
+  }
+  places.push_back(to);
+  return places;
+}

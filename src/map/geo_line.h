@@ -1,0 +1,16 @@
+// Lines between two places on the map.
+#pragma once
+
+#include <vector>
+
+#include "map/map_view.h"
+#include "platform/draw_surface.h"
+
+// Appends the straight line on the map between two places, the shorter way
+// round the world. Where that way leaves the map's world at one side and comes
+// back at the other, two lines are appended.
+void AppendMapLine(const Projection& projection, Position from, Position to, std::vector<SurfaceLine>& lines);
+
+// The places along the great circle between two places, both ends included, no
+// step longer than about stepNM.
+std::vector<Position> GreatCirclePlaces(Position from, Position to, double stepNM);

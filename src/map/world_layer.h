@@ -1,0 +1,6 @@
+// Land, coastlines, lakes and borders.
+#pragma once
+
+#include "map/map_layer.h"
+
+MapLayer WorldLayer();
