@@ -53,6 +53,7 @@ struct PlanWaypoint {
   friend bool operator==(const PlanWaypoint&, const PlanWaypoint&) = default;
 };
 
+// The header's texts are UTF-8.
 struct FlightPlan {
   static constexpr int lastPossibleRow = 1000;
 

@@ -1,0 +1,250 @@
+#include "flightplan/airway_route.h"
+
+#include <cmath>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "base/code_page.h"
+#include "flightplan/plan_legs.h"
+#include "flightplan/plan_rows.h"
+#include "navdata/geodesy.h"
+
+namespace {
+
+constexpr float firstSearchRadius = 30;
+constexpr float searchRadiusStep = 20;
+constexpr float lastSearchRadius = 300;
+constexpr float firstExitRadius = 35;
+constexpr float exitRadiusStep = 25;
+constexpr float lastExitRadius = 500;
+constexpr float nearestExit = 5;
+constexpr float samePlaceDistance = 1;
+constexpr float entrySector = 60;  // degrees to either side
+
+const IntersectionRec& Node(const NavDatabase& database, int node) {
+  return database.intersections[static_cast<std::size_t>(node)];
+}
+
+bool IsOnNetwork(char nodeLevel, char level) {
+  return nodeLevel == 'X' || nodeLevel == level;
+}
+
+float DistanceToNode(const PlanWaypoint& row, const IntersectionRec& node) {
+  return GreatCircleDistance(row.Lat, row.Lon, node.sngLat, node.sngLon);
+}
+
+// The angle between two courses, 0 to 180.
+float CourseDifference(float a, float b) {
+  const float difference = std::fabs(a - b);
+  return difference > 180.0f ? 360.0f - difference : difference;
+}
+
+// The last node of the row's name at the row's place, -1 if none.
+int NodeAtVor(const PlanWaypoint& row, const NavDatabase& database, char level) {
+  int found = -1;
+  for (const int node : database.intersectionsByIdent.All(row.Code.View())) {
+    if (IsNode(database, node) && IsOnNetwork(AirwayLevel(Node(database, node)), level) &&
+        DistanceToNode(row, Node(database, node)) < samePlaceDistance) {
+      found = node;
+    }
+  }
+  return found;
+}
+
+bool HasLinkTowards(const NavDatabase& database, int node, char level, float course) {
+  const IntersectionRec& from = Node(database, node);
+  for (const ConnectionRec& link : NetworkLinks(database, node, level)) {
+    if (!IsNode(database, link.lngNext)) continue;
+    const IntersectionRec& to = Node(database, link.lngNext);
+    const float linkCourse = GreatCircleCourse(from.sngLat, from.sngLon, to.sngLat, to.sngLon);
+    if (CourseDifference(linkCourse, course) <= entrySector) return true;
+  }
+  return false;
+}
+
+// The best entry closer than radius, the first of equals; -1 if none.
+int EntryWithin(const PlanWaypoint& row, const NavDatabase& database, char level, float course,
+                float radius) {
+  int best = -1;
+  float bestDifference = 360;
+  for (const int node : database.intersectionsByPlace.Near({row.Lat, row.Lon}, radius)) {
+    if (!IsNode(database, node) || !IsOnNetwork(AirwayLevel(Node(database, node)), level)) continue;
+    const IntersectionRec& at = Node(database, node);
+    if (!(DistanceToNode(row, at) < radius)) continue;
+    const float difference =
+        CourseDifference(GreatCircleCourse(row.Lat, row.Lon, at.sngLat, at.sngLon), course);
+    if (difference < bestDifference && HasLinkTowards(database, node, level, course)) {
+      best = node;
+      bestDifference = difference;
+    }
+  }
+  return best;
+}
+
+bool HasExitWithin(const PlanWaypoint& row, const NavDatabase& database, char level, float radius) {
+  for (const int node : database.intersectionsByPlace.Near({row.Lat, row.Lon}, radius)) {
+    if (!IsNode(database, node) || !IsOnNetwork(AirwayLevel(Node(database, node)), level)) continue;
+    const float distance = DistanceToNode(row, Node(database, node));
+    if (distance >= nearestExit && distance < radius) return true;
+  }
+  return false;
+}
+
+PlanWaypoint RouteRow(const AirwaySearch::Step& step, const NavDatabase& database) {
+  const IntersectionRec& node = Node(database, step.node);
+  const char level = AirwayLevel(node);
+  PlanWaypoint row;
+  row.Sym = "Int";
+  row.Code = node.strCode.View();
+  row.Name = node.strCode.View();
+  row.Airway = step.SearchAirway.View();
+  row.AirwayMinAlt = step.SearchMinAlt;
+  row.AirwayMaxAlt = step.SearchMaxAlt;
+  row.Freq = node.sngUnused;
+  row.Lat = node.sngLat;
+  row.Lon = node.sngLon;
+  row.MagVar = node.sngMagVar;
+  row.Level = std::string_view(&level, 1);
+  row.DbIndex = step.node;
+  return row;
+}
+
+struct AltitudeWarning {
+  std::string airway;
+  std::int32_t feet = 0;
+};
+
+// One run of the generator. It works on a copy of the plan: the rows that the
+// route takes the place of go before the search is known to succeed.
+class RouteRun {
+ public:
+  RouteRun(const FlightPlan& plan, const PlanContext& context, AirwaySearch& search, char level,
+           int insertionRow)
+      : draft(plan), context(context), search(search), level(level), insertionRow(insertionRow) {}
+
+  bool Run() {
+    for (;;) {
+      const int entry = FindEntryFix(draft, context, insertionRow, level, SearchRadius);
+      if (entry < 0) return false;
+      const float exitRadius = FindExitRadius(draft, context, insertionRow, level);
+      if (exitRadius < 0) return false;
+      GiveWayTo(entry);
+      const PlanWaypoint& destination = draft.Row(insertionRow + 1);
+      const int end =
+          search.ShortestPathToPosition(entry, level, destination.Lat, destination.Lon, exitRadius);
+      if (end >= 0) {
+        InsertRoute(search.PathTo(end));
+        return true;
+      }
+      if (SearchRadius > lastSearchRadius) {
+        TellNoRoute(-end);
+        return false;
+      }
+      SearchRadius += searchRadiusStep;
+    }
+  }
+
+  FlightPlan& Draft() { return draft; }
+  int InsertionRow() const { return insertionRow; }
+  const std::optional<AltitudeWarning>& Warning() const { return warning; }
+
+ private:
+  // A row that is the entry fix itself comes back with the route.
+  void GiveWayTo(int entry) {
+    skipFirst = false;
+    const PlanWaypoint& row = draft.Row(insertionRow);
+    if (row.DbIndex == entry && row.Sym == "Int") DeleteInsertionRow();
+    const PlanWaypoint& before = draft.Row(insertionRow);
+    const IntersectionRec& node = Node(context.database, entry);
+    if (before.Code.View() != node.strCode.View() || !(DistanceToNode(before, node) < samePlaceDistance))
+      return;
+    if (before.Kind == RowKind::enroute) {
+      DeleteInsertionRow();
+    } else if (before.Kind == RowKind::sid) {
+      skipFirst = true;
+    }
+  }
+
+  void DeleteInsertionRow() {
+    DeleteWaypoint(draft, context, insertionRow, false);
+    --insertionRow;
+  }
+
+  void InsertRoute(const std::vector<AirwaySearch::Step>& path) {
+    for (std::size_t i = skipFirst ? 1 : 0; i < path.size(); ++i) {
+      if (!warning && context.aircraft.CruiseFlightLevel * 100LL < path[i].SearchMinAlt) {
+        warning = AltitudeWarning{path[i].SearchAirway.Text(), path[i].SearchMinAlt};
+      }
+      InsertWaypoint(draft, context, insertionRow, RouteRow(path[i], context.database), false);
+    }
+  }
+
+  void TellNoRoute(int startNode) const {
+    const std::string id = CodePageToUtf8(Node(context.database, startNode).strCode.View());
+    context.messages.Show(
+        "No airway routing possible from " + id + "!!\nChoose different airway intersection manually!",
+        MessageIcon::exclamation);
+  }
+
+  FlightPlan draft;
+  const PlanContext& context;
+  AirwaySearch& search;
+  char level;
+  int insertionRow;
+  float SearchRadius = firstSearchRadius;
+  bool skipFirst = false;
+  std::optional<AltitudeWarning> warning;
+};
+
+}  // namespace
+
+int FindEntryFix(const FlightPlan& plan, const PlanContext& context, int insertionRow, char level,
+                 float& SearchRadius) {
+  const PlanWaypoint& row = plan.Row(insertionRow);
+  const NavDatabase& database = context.database;
+  if (row.Sym == "VOR") {
+    const int node = NodeAtVor(row, database, level);
+    if (node >= 0) return node;
+  }
+  if (row.Sym == "Int" && IsNode(database, row.DbIndex) && IsOnNetwork(row.Level.Raw().front(), level)) {
+    return row.DbIndex;
+  }
+  const PlanWaypoint& next = plan.Row(insertionRow + 1);
+  const float course = GreatCircleCourse(row.Lat, row.Lon, next.Lat, next.Lon);
+  do {
+    const int node = EntryWithin(row, database, level, course, SearchRadius);
+    if (node >= 0) return node;
+    SearchRadius += searchRadiusStep;
+  } while (SearchRadius <= lastSearchRadius);
+  context.messages.Show("No fix found within 300nm of insertion waypoint!", MessageIcon::exclamation);
+  return -1;
+}
+
+float FindExitRadius(const FlightPlan& plan, const PlanContext& context, int insertionRow, char level) {
+  const PlanWaypoint& destination = plan.Row(insertionRow + 1);
+  for (float radius = firstExitRadius; radius < lastExitRadius; radius += exitRadiusStep) {
+    if (HasExitWithin(destination, context.database, level, radius)) return radius;
+  }
+  context.messages.Show("No fix found within 500nm of destination waypoint!", MessageIcon::exclamation);
+  return -1;
+}
+
+bool CreateAirwayRoute(FlightPlan& plan, const PlanContext& context, AirwaySearch& search, char level,
+                       int& insertionRow) {
+  plan.RouteMethod = level == 'V' ? RouteGenerator::lowAltitude : RouteGenerator::highAltitude;
+  RouteRun run(plan, context, search, level, insertionRow);
+  if (!run.Run()) return false;
+  plan = std::move(run.Draft());
+  insertionRow = run.InsertionRow();
+  plan.RouteType = RouteKind::navaid;
+  RebuildTable(plan, context);
+  RecomputePlan(plan, context);
+  if (const auto& warning = run.Warning()) {
+    context.messages.Show("\nILLEGAL FLIGHT PLAN FOR CURRENT AIRCRAFT!    \n\n" +
+                              std::to_string(warning->feet) + " minimal altitude required on airway " +
+                              CodePageToUtf8(warning->airway) + "!    ",
+                          MessageIcon::exclamation);
+  }
+  return true;
+}

@@ -1,0 +1,137 @@
+#include "flightplan/plan_file.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <string_view>
+
+#include "base/code_page.h"
+#include "base/numbers.h"
+#include "navdata/geodesy.h"
+
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+
+const AirportRec& Airport(const NavDatabase& database, std::int32_t row) {
+  if (row < 0 || static_cast<std::size_t>(row) >= database.airports.size()) {
+    throw std::logic_error("the flight plan has no departure or destination");
+  }
+  return database.airports[static_cast<std::size_t>(row)];
+}
+
+// The fields of a WP= line are told apart by their commas alone.
+std::string WithoutCommas(std::string_view text) {
+  std::string plain(text);
+  std::replace(plain.begin(), plain.end(), ',', ' ');
+  return plain;
+}
+
+std::string SignedAltitude(double feet) {
+  const std::string digits = FormatPicture(feet, "000000.00");
+  return digits.starts_with('-') ? digits : "+" + digits;
+}
+
+class PlanWriter {
+ public:
+  PlanWriter(const FlightPlan& plan, const NavDatabase& database)
+      : plan(plan),
+        departure(Airport(database, plan.DepartureIndex)),
+        destination(Airport(database, plan.DestinationIndex)),
+        alternate(plan.AlternateIndex >= 0 ? &Airport(database, plan.AlternateIndex) : nullptr) {}
+
+  void WriteSimulatorPart() {
+    const std::string from = departure.strCode.Text();
+    const std::string to = destination.strCode.Text();
+    Line("[Flightplan]");
+    Line("AppVersion=9.1.40901");
+    Line("title=" + from + " to " + to);
+    Line("description=" + from + ", " + to);
+    Line("type=" + plan.PlanType);
+    Line("routetype=" + std::to_string(static_cast<int>(plan.RouteType)));
+    Line("cruising_altitude=" + std::to_string(plan.CruiseFL * 100LL));
+    Line("departure_id=" + from + ", " + FormatPlanLat(plan.DepartureLat) + FormatPlanLon(plan.DepartureLon) +
+         SignedAltitude(departure.lngElevation));
+    Line("departure_position=" + AsciiUpper(Utf8ToCodePage(plan.DepartureID)));
+    Line("destination_id=" + to + ", " + FormatPlanLat(plan.DestinationLat) +
+         FormatPlanLon(plan.DestinationLon) + SignedAltitude(destination.lngElevation));
+    Line("departure_name=" + departure.strName.Text());
+    Line("destination_name=" + destination.strName.Text());
+    if (alternate != nullptr) Line("alternate_name=" + alternate->strName.Text());
+    for (int i = 0; i < plan.RowCount(); ++i)
+      Line("waypoint." + std::to_string(i) + Waypoint(plan.Row(i)));
+  }
+
+  void WriteNativePart() {
+    Line("");
+    Line("[VLM]");
+    Line("DepartAPCode=" + std::string(departure.strCode.Raw()));
+    Line("DepartNum=" + std::to_string(plan.DepartureNum));
+    Line("DepartID=" + Utf8ToCodePage(plan.DepartureID));
+    Line("DepartType=" + (plan.DepartureType.empty() ? "Rwy" : plan.DepartureType));
+    Line("DestAPCode=" + std::string(destination.strCode.Raw()));
+    Line("RouteType=" + std::to_string(static_cast<int>(plan.RouteType)));
+    Line("SID=" + Utf8ToCodePage(plan.SidName));
+    Line("STAR=" + Utf8ToCodePage(plan.StarName));
+    for (int i = 1; i < plan.DestinationRow(); ++i)
+      Line("WP=" + std::to_string(i) + NativeFields(plan.Row(i)));
+  }
+
+  std::string TakeText() { return std::move(text); }
+
+ private:
+  void Line(std::string_view line) {
+    text += line;
+    text += lineEnd;
+  }
+
+  std::string Waypoint(const PlanWaypoint& row) const {
+    const std::string code = row.Code.Text();
+    const std::string place = FormatPlanLat(row.Lat) + FormatPlanLon(row.Lon);
+    if (row.Kind == RowKind::departure || row.Kind == RowKind::destination) {
+      const AirportRec& airport = row.Kind == RowKind::departure ? departure : destination;
+      return "=, " + code + ", , " + code + ", A, " + place + SignedAltitude(airport.lngElevation) + ",";
+    }
+    const std::string behind = place + "+000000.00,";
+    if (row.Sym == "NDB") return "=KK, " + code + ",  , " + code + ", N, " + behind;
+    if (row.Sym == "VOR") return "=KK, " + code + ", , " + code + ", V, " + behind;
+    return "=KK, " + code + ", , " + code + ",  I, " + behind;
+  }
+
+  static std::string NativeFields(const PlanWaypoint& row) {
+    std::string fields;
+    const auto add = [&fields](std::string_view value) { (fields += ',') += value; };
+    add(WithoutCommas(row.Sym.View()));
+    add(WithoutCommas(row.Code.View()));
+    add(WithoutCommas(row.Name.View()));
+    add(FormatPicture(row.Lat, "##0.0000"));
+    add(FormatPicture(row.Lon, "##0.0000"));
+    add(FormatPicture(row.Freq, "##0.00"));
+    add(FormatPicture(row.Course, "##0.0000"));
+    add(FormatPicture(row.MagVar, "##0.000"));
+    add(std::to_string(static_cast<int>(row.Kind)));
+    add(std::to_string(row.DbIndex));
+    if (row.HasAirway()) {
+      add(WithoutCommas(row.Airway.View()));
+      if (row.AirwayMinAlt >= 0 && row.AirwayMaxAlt > 0) {
+        add(FormatPicture(row.AirwayMinAlt, "00000"));
+        add(FormatPicture(row.AirwayMaxAlt, "00000"));
+      }
+    }
+    return fields;
+  }
+
+  const FlightPlan& plan;
+  const AirportRec& departure;
+  const AirportRec& destination;
+  const AirportRec* alternate;
+  std::string text;
+};
+
+}  // namespace
+
+std::string WritePlan(const FlightPlan& plan, const NavDatabase& database, PlanFormat format) {
+  PlanWriter writer(plan, database);
+  writer.WriteSimulatorPart();
+  if (format == PlanFormat::FS) writer.WriteNativePart();
+  return writer.TakeText();
+}
