@@ -1,0 +1,25 @@
+// The commands of velmora-cli. Each prints its result on standard output and
+// returns the program's exit code.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/cli_output.h"
+
+int RunInfo(const CliOptions& options);
+int RunFind(const CliOptions& options, const std::string& ident);
+int RunCourse(const CliOptions& options, const std::vector<double>& positions);
+int RunAircraft(const CliOptions& options);
+
+enum class PlanMode { direct, lowAltitude, highAltitude };
+
+struct PlanRequest {
+  std::string departure;
+  std::string destination;
+  PlanMode mode = PlanMode::direct;
+  std::optional<int> aircraft;  // number; nothing: the settings' aircraft
+  std::string saveAs;           // a .pln file; empty: not saved
+};
+
+int RunPlan(const CliOptions& options, const PlanRequest& request);

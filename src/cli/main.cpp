@@ -1,0 +1,100 @@
+// velmora-cli: what the window does with a mouse, from a shell.
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+
+#include "cli/commands.h"
+#ifdef VELMORA_HAS_DRAW
+#include "cli/draw_command.h"
+#endif
+
+namespace {
+
+struct CommandLine {
+  std::string home;
+  std::string simulator;
+  bool json = false;
+  std::string ident;
+  std::vector<double> positions;
+  PlanRequest plan;
+  bool direct = false;
+  bool low = false;
+  bool high = false;
+  int aircraft = 0;
+#ifdef VELMORA_HAS_DRAW
+  DrawRequest draw;
+#endif
+};
+
+CliOptions OptionsOf(const CommandLine& line) {
+  CliOptions options{AppFolder(DefaultAppFolder(line.home.empty() ? std::nullopt : std::optional(line.home))), {}, line.json};
+  if (!line.simulator.empty()) options.blnFSX = static_cast<std::int16_t>(line.simulator == "2004" ? 0 : -1);
+  return options;
+}
+
+CLI::App* AddPlanCommand(CLI::App& app, CommandLine& line) {
+  CLI::App* plan = app.add_subcommand("plan", "Build a plan between two airports");
+  plan->add_option("DEP", line.plan.departure, "Departure airport")->required();
+  plan->add_option("DEST", line.plan.destination, "Destination airport")->required();
+  CLI::Option_group* mode = plan->add_option_group("MODE", "How the route is made");
+  mode->add_flag("--direct", line.direct, "Straight to the destination");
+  mode->add_flag("--low", line.low, "Low altitude (victor) airways");
+  mode->add_flag("--high", line.high, "High altitude (jet) airways");
+  mode->require_option(1);
+  plan->add_option("--aircraft", line.aircraft, "Number of the aircraft");
+  plan->add_option("--save", line.plan.saveAs, "Save the plan as FILE.pln");
+  return plan;
+}
+
+int RunCommand(const CommandLine& line, const CLI::App& app, const CLI::App& plan) {
+  const CliOptions options = OptionsOf(line);
+  if (app.got_subcommand("info")) return RunInfo(options);
+  if (app.got_subcommand("find")) return RunFind(options, line.ident);
+  if (app.got_subcommand("course")) return RunCourse(options, line.positions);
+  if (app.got_subcommand("aircraft")) return RunAircraft(options);
+#ifdef VELMORA_HAS_DRAW
+  if (app.got_subcommand("draw")) return RunDraw(options, line.draw);
+#endif
+  PlanRequest request = line.plan;
+  request.mode = line.low ? PlanMode::lowAltitude : line.high ? PlanMode::highAltitude : PlanMode::direct;
+  if (plan.count("--aircraft") > 0) request.aircraft = line.aircraft;
+  return RunPlan(options, request);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CommandLine line;
+  CLI::App app{"Velmora from the command line"};
+  app.name("velmora-cli");
+  app.require_subcommand(1);
+  app.fallthrough();
+  app.add_option("--home", line.home, "The application folder")->type_name("DIR");
+  app.add_option("--fs", line.simulator, "Database of this simulator")->check(CLI::IsMember({"2004", "X"}));
+  app.add_flag("--json", line.json, "One JSON document on standard output");
+  app.set_version_flag("--version", "Velmora 8.6");
+  app.add_subcommand("info", "What the database holds");
+  app.add_subcommand("find", "Everything with an ident")->add_option("IDENT", line.ident, "Ident")->required();
+  app.add_subcommand("course", "Distance and course between two positions")
+      ->add_option("LAT1 LON1 LAT2 LON2", line.positions, "Degrees, north and east positive")
+      ->expected(4)
+      ->required();
+  app.add_subcommand("aircraft", "The aircraft file");
+  const CLI::App* plan = AddPlanCommand(app, line);
+#ifdef VELMORA_HAS_DRAW
+  AddDrawCommand(app, line.draw);
+#endif
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) return app.exit(error);
+    std::cerr << "velmora-cli: " << error.what()
+              << "\nUsage: velmora-cli [--home DIR] [--fs 2004|X] COMMAND [ARGUMENTS] [--json]\n";
+    return exitWrongUsage;
+  }
+  try {
+    return RunCommand(line, app, *plan);
+  } catch (const std::exception& error) {
+    return Fail(error.what());
+  }
+}

@@ -1,0 +1,92 @@
+#include <algorithm>
+#include <iostream>
+
+#include "base/files.h"
+#include "base/numbers.h"
+#include "cli/commands.h"
+#include "cli/plan_document.h"
+#include "flightplan/aircraft_file.h"
+#include "flightplan/plan_file.h"
+#include "flightplan/plan_rows.h"
+#include "flightplan/route_generation.h"
+#include "settings/settings_file.h"
+
+namespace {
+
+// The airport with this code as typed, else in capitals; -1 after telling that there is none.
+std::int32_t FindAirport(const NavDatabase& database, const std::string& code) {
+  const std::int32_t asTyped = database.FindAirportByCode(code);
+  const std::int32_t row = asTyped >= 0 ? asTyped : database.FindAirportByCode(AsciiUpper(code));
+  if (row < 0 || row >= database.AirportCount()) {
+    Fail("there is no airport " + code + " in the database");
+    return -1;
+  }
+  return row;
+}
+
+std::optional<AircraftRec> ChooseAircraft(const CliOptions& options, const Settings& settings,
+                                          std::optional<int> wanted) {
+  const auto path = options.home.Resolve(aircraftFileName);
+  const AircraftFile file = ReadAircraftFile(path);
+  const auto hasWanted = [&](const AircraftRec& aircraft) { return aircraft.Number == *wanted; };
+  if (wanted && std::none_of(file.aircraft.begin(), file.aircraft.end(), hasWanted)) {
+    Fail("there is no aircraft number " + std::to_string(*wanted) + " in " + path.string());
+    return std::nullopt;
+  }
+  auto aircraft = ReadAircraft(file.aircraft, wanted.value_or(settings.AIRCRAFT));
+  if (!aircraft) Fail("there is no aircraft in " + path.string());
+  return aircraft;
+}
+
+void PrintForPeople(const FlightPlan& plan, const AircraftRec& aircraft) {
+  std::cout << Utf8(plan.rows.front().Code.View()) << " to " << Utf8(plan.rows.back().Code.View()) << "  "
+            << plan.TotalDistance << " NM  " << FormatMinutes(plan.TotalMinutes) << "  FL " << plan.CruiseFL << "  "
+            << aircraft.Name << "\n\n";
+  for (std::size_t i = 0; i < plan.rows.size(); ++i) {
+    const PlanWaypoint& row = plan.rows[i];
+    const std::string code = Utf8(row.Code.View());
+    const std::string airway = row.HasAirway() ? Utf8(row.Airway.View()) : "";
+    std::printf("%4zu  %-4s %-10s %-8s %6.1f NM  %s  %s  %s\n", i, Utf8(row.Sym.View()).c_str(), code.c_str(),
+                airway.c_str(), static_cast<double>(row.Dist), FormatPicture(row.Course, "000").c_str(),
+                FormatLat(row.Lat, 1).c_str(), FormatLon(row.Lon, 1).c_str());
+  }
+}
+
+}  // namespace
+
+int RunPlan(const CliOptions& options, const PlanRequest& request) {
+  auto world = OpenWorld(options);
+  if (!world) return exitNotDone;
+  const Settings settings = ReadIni(options.home).settings;
+  const std::int32_t departure = FindAirport(world->database, request.departure);
+  const std::int32_t destination = departure < 0 ? -1 : FindAirport(world->database, request.destination);
+  if (destination < 0) return exitNotDone;
+  const auto aircraft = ChooseAircraft(options, settings, request.aircraft);
+  if (!aircraft) return exitNotDone;
+
+  CliMessages messages;
+  const PlanContext context{world->database, *aircraft, messages, settings.FAFDIST};
+  FlightPlan plan;
+  SetDepartureAndDestination(plan, context, departure, destination);
+  bool generated = true;
+  if (request.mode != PlanMode::direct) {
+    AirwaySearch search;
+    generated = GenerateAirwayRoute(plan, context, search,
+                                    request.mode == PlanMode::lowAltitude ? AirwayNetwork::lowAltitude
+                                                                          : AirwayNetwork::highAltitude);
+  }
+  if (options.json) {
+    Json document = PlanDocument(plan, context);
+    document["messages"] = messages.ToJson();
+    PrintJson(document);
+  } else {
+    PrintForPeople(plan, *aircraft);
+  }
+  if (!generated) return Fail("no airway route could be built between these airports");
+  if (request.saveAs.empty()) return exitDone;
+  std::string reason;
+  if (!ReplaceFile(request.saveAs, WritePlan(plan, world->database, PlanFormat::FS), &reason)) {
+    return Fail("the plan was not saved: " + reason);
+  }
+  return exitDone;
+}
