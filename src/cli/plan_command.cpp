@@ -70,15 +70,13 @@ int RunPlan(const CliOptions& options, const PlanRequest& request) {
   SetDepartureAndDestination(plan, context, departure, destination);
   bool generated = true;
   if (request.mode != PlanMode::direct) {
-    AirwaySearch search;
+    AirwaySearch search(world->database);
     generated = GenerateAirwayRoute(plan, context, search,
                                     request.mode == PlanMode::lowAltitude ? AirwayNetwork::lowAltitude
                                                                           : AirwayNetwork::highAltitude);
   }
   if (options.json) {
-    Json document = PlanDocument(plan, context);
-    document["messages"] = messages.ToJson();
-    PrintJson(document);
+    PrintJson(PlanDocument(plan, context, messages.ToJson()));
   } else {
     PrintForPeople(plan, *aircraft);
   }
