@@ -1,0 +1,147 @@
+#include "flightplan/plan_layers.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "base/code_page.h"
+#include "map/clsNavaid.h"
+#include "map/geo_line.h"
+
+namespace {
+
+constexpr std::int16_t labelRange = 2000;
+constexpr double greatCircleStepNM = 60;
+constexpr float labelPadding = 14;  // units around a label's text
+constexpr std::int16_t farthestFitRow = 19;
+
+void DrawPlanLine(const MapPaint& paint, const FlightPlan& plan) {
+  std::vector<SurfaceLine> lines;
+  for (std::size_t row = 1; row < plan.rows.size(); ++row) {
+    const PlanWaypoint& from = plan.rows[row - 1];
+    const PlanWaypoint& to = plan.rows[row];
+    const auto places = GreatCirclePlaces({from.Lat, from.Lon}, {to.Lat, to.Lon}, greatCircleStepNM);
+    for (std::size_t i = 1; i < places.size(); ++i)
+      AppendMapLine(paint.projection, places[i - 1], places[i], lines);
+  }
+  paint.surface.DrawWidth = 2.4F;
+  paint.surface.Lines(lines, paint.colors.ROUTE);
+}
+
+bool IsAirport(const PlanWaypoint& row) {
+  return row.Kind == RowKind::departure || row.Kind == RowKind::destination;
+}
+
+// Draws the row's symbol. Returns how far below its place the label begins.
+float DrawSymbol(const MapPaint& paint, const PlanWaypoint& row) {
+  clsNavaid symbol;
+  symbol.objTarget = &paint.surface;
+  symbol.rangeNM = paint.view.RangeNM();
+  symbol.lngColor = paint.colors.ROUTE;
+  symbol.sngCenterX = static_cast<float>(paint.projection.LonToX(row.Lon));
+  symbol.sngCenterY = static_cast<float>(paint.projection.LatToY(row.Lat));
+  paint.surface.DrawWidth = 1.6F;
+  paint.surface.FillStyle = FillStyleKind::solid;
+  paint.surface.FillColor = paint.colors.MAP;
+  if (IsAirport(row)) {
+    symbol.intRadius = 46;
+    symbol.DrawAsAirportCircle();
+    return 75;
+  }
+  if (row.Sym == "VOR") {
+    symbol.DrawAsVorSymbol();
+    return 75;
+  }
+  if (row.Sym == "NDB") {
+    symbol.intRadius = 110;
+    paint.surface.FillStyle = FillStyleKind::transparent;
+    symbol.DrawAsNDB();
+    return 150;
+  }
+  if (row.Sym == "Uwp") {
+    symbol.sngLength = 40;
+    symbol.DrawAsVRP();
+    return 150;
+  }
+  symbol.sngLength = 30;
+  symbol.DrawAsIntersection();
+  return 75;
+}
+
+// The code on a shaded plate, so that it stands out from what lies below it.
+void PrintPlate(const MapPaint& paint, SurfacePoint place, const std::string& text) {
+  DrawSurface& surface = paint.surface;
+  const float left = place.x - labelPadding;
+  const float right = place.x + surface.TextWidth(text) + labelPadding;
+  const float bottom = place.y + surface.TextHeight(text);
+  const std::array<SurfacePoint, 4> plate = {
+      {{left, place.y}, {right, place.y}, {right, bottom}, {left, bottom}}};
+  surface.Opacity = 0.72F;
+  surface.Polygon(plate, paint.colors.MAP);
+  surface.Opacity = 1;
+  surface.CurrentX = place.x;
+  surface.CurrentY = place.y;
+  surface.Print(text);
+}
+
+// Airports first, then every other row that still finds a place.
+void DrawPlanWaypoints(const MapPaint& paint, const FlightPlan& plan) {
+  struct Label {
+    const PlanWaypoint* row;
+    float below;
+  };
+  std::vector<Label> labels;
+  for (const PlanWaypoint& row : plan.rows)
+    if (paint.view.InView(row.Lat, row.Lon, navaidMargin)) labels.push_back({&row, DrawSymbol(paint, row)});
+  if (paint.view.RangeNM() > labelRange) return;
+  std::stable_partition(labels.begin(), labels.end(),
+                        [](const Label& label) { return IsAirport(*label.row); });
+  LabelPlacer ownLabels(paint.surface);
+  paint.surface.ForeColor = paint.colors.TAXINAME;
+  for (const Label& label : labels) {
+    paint.surface.FontBold = IsAirport(*label.row);
+    paint.surface.FontSize = IsAirport(*label.row) ? 10 : 8.5F;
+    const std::string text = CodePageToUtf8(label.row->Code.View());
+    const auto x =
+        static_cast<float>(paint.projection.LonToX(label.row->Lon)) - paint.surface.TextWidth(text) / 2;
+    const auto y = static_cast<float>(paint.projection.LatToY(label.row->Lat)) + label.below;
+    const auto place = ownLabels.PlaceLabel(x, y, text, LabelKind::fix);
+    if (place) PrintPlate(paint, *place, text);
+  }
+}
+
+}  // namespace
+
+std::vector<MapLayer> PlanLayers(const FlightPlan& plan) {
+  const auto hasRows = [&plan](const MapPaint&) { return !plan.rows.empty(); };
+  return {
+      {LayerPlace::planLine, "plan", hasRows, [&plan](const MapPaint& paint) { DrawPlanLine(paint, plan); }},
+      {LayerPlace::planWaypoints, "plan", hasRows,
+       [&plan](const MapPaint& paint) { DrawPlanWaypoints(paint, plan); }}};
+}
+
+bool ShowWholePlan(const FlightPlan& plan, MapView& view) {
+  if (plan.rows.empty()) return false;
+  double south = plan.rows.front().Lat;
+  double north = south;
+  double west = plan.rows.front().Lon;
+  double east = west;
+  double lon = west;
+  for (const PlanWaypoint& row : plan.rows) {
+    lon += std::remainder(static_cast<double>(row.Lon) - lon, 360.0);  // the short way from the row before
+    south = std::min<double>(south, row.Lat);
+    north = std::max<double>(north, row.Lat);
+    west = std::min(west, lon);
+    east = std::max(east, lon);
+  }
+  view.MapCenterLat = static_cast<float>((south + north) / 2);
+  view.MapCenterLon = static_cast<float>(std::remainder((west + east) / 2, 360.0));
+  const double cosine = std::cos(DegToRad(view.MapCenterLat));
+  const double wide = (east - west) * cosine * mapScaleHeight / mapScaleWidth;
+  const double heightNM = 60 * 1.25 * std::max(wide, north - south);
+  std::int16_t row = 0;
+  while (row < farthestFitRow && ZoomTable[static_cast<std::size_t>(row)].rangeNM < heightNM)
+    ++row;
+  view.SetZoom(row, true);
+  return true;
+}

@@ -1,0 +1,18 @@
+// The program's own options, taken out of the command line before the letters
+// of what is left choose the simulator version.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+struct CommandLine {
+  std::optional<std::string> home;
+  bool help = false;
+  bool version = false;
+  std::string error;  // why the options cannot be used; empty if they can
+  std::string rest;   // everything else, joined by blanks
+};
+
+// arguments without the program's name. --home DIR, --home=DIR, --help, -h, --version.
+CommandLine TakeOptions(const std::vector<std::string>& arguments);

@@ -1,0 +1,121 @@
+#include "windows/pixel_strokes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+QRgb* PixelRow(QImage& image, int y) {
+  return reinterpret_cast<QRgb*>(image.scanLine(y));
+}
+
+// Weight 0 to 256.
+QRgb Mixed(QRgb below, QRgb color, int weight) {
+  const auto channel = [weight](int from, int to) { return from + (to - from) * weight / 256; };
+  return qRgb(channel(qRed(below), qRed(color)), channel(qGreen(below), qGreen(color)),
+              channel(qBlue(below), qBlue(color)));
+}
+
+// One edge of Liang and Barsky's clipping; false if the line lies outside.
+bool CutAtEdge(double along, double distance, double& first, double& last) {
+  if (along == 0) return distance >= 0;
+  const double t = distance / along;
+  if (along < 0) {
+    first = std::max(first, t);
+  } else {
+    last = std::min(last, t);
+  }
+  return first <= last;
+}
+
+// Length of the part of [from, from + side] that lies in pixel's [i, i + 1].
+float Share(float from, float side, int i) {
+  const float low = std::max(from, static_cast<float>(i));
+  const float high = std::min(from + side, static_cast<float>(i + 1));
+  return std::max(0.0F, high - low);
+}
+
+}  // namespace
+
+void BlendPixel(QImage& image, int x, int y, QRgb color, float coverage) {
+  if (x < 0 || y < 0 || x >= image.width() || y >= image.height()) return;
+  QRgb& pixel = PixelRow(image, y)[x];
+  pixel = Mixed(pixel, color, std::clamp(static_cast<int>(coverage * 256), 0, 256));
+}
+
+bool CutLine(QPointF& from, QPointF& to, double width, double height, double margin) {
+  const double dx = to.x() - from.x();
+  const double dy = to.y() - from.y();
+  double first = 0;
+  double last = 1;
+  const bool inside = CutAtEdge(-dx, from.x() + margin, first, last) &&
+                      CutAtEdge(dx, width + margin - from.x(), first, last) &&
+                      CutAtEdge(-dy, from.y() + margin, first, last) &&
+                      CutAtEdge(dy, height + margin - from.y(), first, last);
+  if (!inside) return false;
+  const QPointF start = from;
+  from = QPointF(start.x() + first * dx, start.y() + first * dy);
+  to = QPointF(start.x() + last * dx, start.y() + last * dy);
+  return true;
+}
+
+void BlendLine(QImage& image, QPointF from, QPointF to, QRgb color, float opacity) {
+  if (!CutLine(from, to, image.width(), image.height(), 2)) return;
+  // Pixel (i, j) has its middle at i + 0.5, j + 0.5.
+  double x1 = from.x() - 0.5;
+  double y1 = from.y() - 0.5;
+  double x2 = to.x() - 0.5;
+  double y2 = to.y() - 0.5;
+  const bool steep = std::abs(y2 - y1) > std::abs(x2 - x1);
+  if (steep) {
+    std::swap(x1, y1);
+    std::swap(x2, y2);
+  }
+  if (x1 > x2) {
+    std::swap(x1, x2);
+    std::swap(y1, y2);
+  }
+  const double slope = x2 > x1 ? (y2 - y1) / (x2 - x1) : 0;
+  const int firstStep = static_cast<int>(std::lround(x1));
+  const int lastStep = std::max(firstStep, static_cast<int>(std::lround(x2)));
+  double y = y1 + slope * (firstStep - x1);
+  for (int x = firstStep; x <= lastStep; ++x, y += slope) {
+    const double whole = std::floor(y);
+    const int row = static_cast<int>(whole);
+    const auto second = static_cast<float>(y - whole);
+    BlendPixel(image, steep ? row : x, steep ? x : row, color, opacity * (1 - second));
+    BlendPixel(image, steep ? row + 1 : x, steep ? x : row + 1, color, opacity * second);
+  }
+}
+
+void BlendSquare(QImage& image, QPointF centre, float side, QRgb color, float opacity) {
+  if (!(std::abs(centre.x()) < 1e6 && std::abs(centre.y()) < 1e6)) return;
+  const float left = static_cast<float>(centre.x()) - side / 2;
+  const float top = static_cast<float>(centre.y()) - side / 2;
+  const int firstColumn = static_cast<int>(std::floor(left));
+  const int firstRow = static_cast<int>(std::floor(top));
+  const int count = static_cast<int>(std::ceil(side)) + 1;
+  for (int row = firstRow; row < firstRow + count; ++row) {
+    for (int column = firstColumn; column < firstColumn + count; ++column)
+      BlendPixel(image, column, row, color, opacity * Share(left, side, column) * Share(top, side, row));
+  }
+}
+
+void BlendSprite(QImage& image, const QImage& sprite, QPointF centre, float opacity) {
+  if (!(std::abs(centre.x()) < 1e6 && std::abs(centre.y()) < 1e6)) return;
+  const int left = static_cast<int>(std::floor(centre.x())) - sprite.width() / 2;
+  const int top = static_cast<int>(std::floor(centre.y())) - sprite.height() / 2;
+  const int weight = std::clamp(static_cast<int>(opacity * 256), 0, 256);
+  const int firstColumn = std::max(0, -left);
+  const int endColumn = std::min(sprite.width(), image.width() - left);
+  for (int row = std::max(0, -top); row < sprite.height() && top + row < image.height(); ++row) {
+    const auto* from = reinterpret_cast<const QRgb*>(sprite.constScanLine(row));
+    QRgb* to = PixelRow(image, top + row) + left;
+    for (int column = firstColumn; column < endColumn; ++column) {
+      const int alpha = qAlpha(from[column]);
+      if (alpha == 0) continue;
+      to[column] = Mixed(to[column], qUnpremultiply(from[column]), alpha * weight / 255);
+    }
+  }
+}

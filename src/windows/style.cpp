@@ -1,0 +1,99 @@
+#include "windows/style.h"
+
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace {
+
+const QStringList& FontStack() {
+  static const QStringList families = {"Inter", "DejaVu Sans"};
+  return families;
+}
+
+constexpr QRgb ground = qRgb(17, 22, 31);
+constexpr QRgb raised = qRgb(25, 32, 44);
+constexpr QRgb text = qRgb(223, 229, 238);
+constexpr QRgb quietText = qRgb(140, 152, 170);
+constexpr QRgb accent = qRgb(64, 132, 214);
+
+QPalette DarkPalette() {
+  QPalette palette;
+  palette.setColor(QPalette::Window, ground);
+  palette.setColor(QPalette::Base, qRgb(13, 17, 24));
+  palette.setColor(QPalette::AlternateBase, qRgb(18, 23, 32));
+  palette.setColor(QPalette::Button, raised);
+  palette.setColor(QPalette::ToolTipBase, raised);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+    palette.setColor(role, text);
+  palette.setColor(QPalette::PlaceholderText, qRgb(104, 116, 134));
+  palette.setColor(QPalette::Highlight, accent);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Link, qRgb(120, 176, 240));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, qRgb(92, 102, 118));
+  return palette;
+}
+
+constexpr const char* styleSheet = R"(
+QMenuBar { background: #111620; padding: 2px 6px; }
+QMenuBar::item { padding: 5px 10px; border-radius: 4px; background: transparent; }
+QMenuBar::item:selected { background: #232d3d; }
+QMenu { background: #19202c; border: 1px solid #2c3748; padding: 5px; }
+QMenu::item { padding: 6px 28px 6px 26px; border-radius: 4px; }
+QMenu::item:selected { background: #2b5c99; }
+QMenu::item:disabled { color: #5c6676; }
+QMenu::separator { height: 1px; background: #2c3748; margin: 5px 8px; }
+QToolBar { background: #111620; border: none; border-bottom: 1px solid #232c3a; padding: 5px 10px; spacing: 4px; }
+QToolBar::separator { width: 1px; background: #2c3748; margin: 4px 8px; }
+QToolButton { background: transparent; border: 1px solid transparent; border-radius: 5px; padding: 5px 11px; color: #b9c4d3; }
+QToolButton:hover { background: #202938; color: #ffffff; }
+QToolButton:pressed { background: #18202c; }
+QToolButton:checked { background: #1f3a5e; border-color: #2d5688; color: #e8f1fc; }
+QToolButton:focus { border-color: #4084d6; }
+QToolButton:disabled { color: #525c6b; }
+QPushButton { background: #212b3a; border: 1px solid #334155; border-radius: 5px; padding: 7px 18px; min-width: 64px; }
+QPushButton:hover { background: #293648; }
+QPushButton:focus { border-color: #4084d6; }
+QPushButton:default { background: #2b65ab; border-color: #3a78c2; color: #ffffff; }
+QPushButton:default:hover { background: #3273c0; }
+QPushButton:disabled { background: #1a212c; border-color: #262f3c; color: #5c6676; }
+QLineEdit { background: #0d1118; border: 1px solid #334155; border-radius: 5px; padding: 7px 9px; selection-background-color: #2b65ab; }
+QLineEdit:focus { border-color: #4084d6; }
+QFrame#statusStrip { background: #111620; border-top: 1px solid #232c3a; }
+QFrame#statusStrip QLabel { color: #a7b3c4; padding: 0 12px; border-right: 1px solid #232c3a; }
+QFrame#pnlFlightplan { background: #111620; border-left: 1px solid #232c3a; }
+QFrame#pnlFlightplan QLabel#lblPlanTitle { font-size: 19px; font-weight: 600; color: #f1f5fa; }
+QLabel[quiet="true"] { color: #8c98aa; }
+QLabel[fault="true"] { color: #f08a7c; }
+QLabel[figure="true"] { font-size: 15px; color: #dfe5ee; }
+QTableView { border: none; background: #0f141c; alternate-background-color: #121822; gridline-color: #1d2531; outline: none; }
+QTableView::item { padding: 0 8px; border: none; }
+QTableView::item:selected { background: #1f3a5e; color: #ffffff; }
+QHeaderView::section { background: #111620; color: #8c98aa; border: none; border-bottom: 1px solid #232c3a; padding: 6px 8px; }
+QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
+QScrollBar::handle:vertical { background: #2e3a4c; border-radius: 5px; min-height: 28px; }
+QScrollBar::handle:vertical:hover { background: #3c4b61; }
+QScrollBar::add-line, QScrollBar::sub-line, QScrollBar::add-page, QScrollBar::sub-page { background: none; height: 0; }
+QToolTip { background: #19202c; color: #dfe5ee; border: 1px solid #334155; padding: 4px; }
+)";
+
+}  // namespace
+
+QFont MapFont() {
+  QFont font;
+  font.setFamilies(FontStack());
+  font.setHintingPreference(QFont::PreferVerticalHinting);
+  return font;
+}
+
+void ApplyStyle(QApplication& application) {
+  application.setStyle(QStyleFactory::create("Fusion"));
+  QPalette palette = DarkPalette();
+  palette.setColor(QPalette::Mid, quietText);
+  application.setPalette(palette);
+  QFont font;
+  font.setFamilies(FontStack());
+  font.setPixelSize(13);
+  application.setFont(font);
+  application.setStyleSheet(styleSheet);
+}

@@ -1,0 +1,13 @@
+// How the program looks: its colours, its fonts and the style sheet, all in
+// one place. Dark and quiet, so that the map is the brightest thing on the
+// screen by day and does not blind by night.
+#pragma once
+
+#include <QApplication>
+#include <QFont>
+
+// The font of the map's texts; QtDrawSurface sets its size.
+QFont MapFont();
+
+// Palette, font and style sheet for every window.
+void ApplyStyle(QApplication& application);
