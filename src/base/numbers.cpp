@@ -29,21 +29,43 @@ double NearestEven(double value) {
   return std::fmod(down, 2.0) == 0.0 ? down : down + 1.0;
 }
 
-// |value| with the given decimals as digits, halves rounded up. std::to_chars
-// works on the exact value, so only a true half is a tie.
+// |value| with the given decimals as digits, halves rounded up. Works on the
+// 15 decimal digits that a double holds for certain, so that 0.285 is a half.
 std::string RoundedDigits(double value, int decimals) {
-  const double magnitude = std::fabs(value);
-  const double scaled = magnitude * std::pow(10.0, decimals);
-  if (scaled < 9.0e15 && scaled - std::floor(scaled) == 0.5 &&
-      std::fmod(std::floor(scaled), 2.0) == 0.0) {
-    // An apparent tie that to_chars() may round down to the even digit.
-    const double exact = std::fma(magnitude, std::pow(10.0, decimals), -scaled);
-    if (exact >= 0.0) return RoundedDigits((std::floor(scaled) + 0.75) / std::pow(10.0, decimals), decimals);
+  constexpr int certainDigits = 15;
+  std::array<char, 32> buffer{};
+  const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                     std::chars_format::scientific, certainDigits - 1);
+  const std::string_view text(buffer.data(), static_cast<std::size_t>(written.ptr - buffer.data()));
+  const std::size_t mark = text.find('e');
+  std::string digits = "0" + std::string(text.substr(0, 1)) + std::string(text.substr(2, mark - 2));
+  int exponent = 0;
+  const char* sign = text.data() + mark + 1;
+  std::from_chars(*sign == '+' ? sign + 1 : sign, text.data() + text.size(), exponent);
+
+  // digits, read as a fraction behind its first two figures, times 10^exponent.
+  int keep = 2 + exponent + decimals;
+  if (keep < 1) {
+    digits = "0";
+    keep = 1;
   }
-  std::array<char, 400> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
-                                 std::chars_format::fixed, decimals);
-  return {buffer.data(), end.ptr};
+  if (keep < static_cast<int>(digits.size())) {
+    const bool up = digits[static_cast<std::size_t>(keep)] >= '5';
+    digits.resize(static_cast<std::size_t>(keep));
+    for (std::size_t i = digits.size(); up && i-- > 0;) {
+      if (digits[i] != '9') {
+        ++digits[i];
+        break;
+      }
+      digits[i] = '0';
+    }
+  }
+  digits.append(static_cast<std::size_t>(std::max(0, keep - static_cast<int>(digits.size()))), '0');
+  const auto wholeDigits = static_cast<int>(digits.size()) - decimals;
+  if (wholeDigits < 1) digits.insert(0, static_cast<std::size_t>(1 - wholeDigits), '0');
+  const std::size_t point = digits.size() - static_cast<std::size_t>(decimals);
+  const std::size_t first = std::min(digits.find_first_not_of('0'), point - 1);
+  return digits.substr(first, point - first) + (decimals > 0 ? "." + digits.substr(point) : "");
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ std::string FormatAngle(float angle, char positive, char negative, std::string_v
   return text;
 }
 
-std::string FormatPlanAngle(float angle, char positive, char negative, std::string_view degreePicture) {
+std::string FormatPlanAngle(double angle, char positive, char negative, std::string_view degreePicture) {
   const AngleParts parts = RoundedParts(angle, 10000.0);
   return std::string(1, angle < 0 ? negative : positive) + FormatPicture(parts.degrees, degreePicture) + "* " +
          FormatPicture(parts.minutes, "00.0000") + "', ";
@@ -117,7 +117,9 @@ float RhumbCourse(float lat1, float lon1, float lat2, float lon2) {
   const PointPair p = SeparatedRadians(lat1, lon1, lat2, lon2, rhumbEpsilon);
   const double eastward = ModTwoPi(p.lon2 - p.lon1);
   const double westward = ModTwoPi(p.lon1 - p.lon2);
-  const double northward = MercatorLatitude(p.lat2) - MercatorLatitude(p.lat1);
+  const double from = MercatorLatitude(p.lat1);
+  const double to = MercatorLatitude(p.lat2);
+  const double northward = from == to ? 0.0 : to - from;  // both may be one pole, infinitely far
   const double course =
       eastward < westward ? std::atan2(eastward, northward) : std::atan2(-westward, northward);
   return static_cast<float>(NormalizeDeg(RadToDeg(course)));
@@ -152,7 +154,7 @@ std::string FormatLon(float lon, int style) { return FormatAngle(lon, 'E', 'W', 
 std::string FormatPlanLat(float lat) { return FormatPlanAngle(lat, 'N', 'S', "00"); }
 
 std::string FormatPlanLon(float lon) {
-  return FormatPlanAngle(std::fabs(lon) == 180.0F ? -179.9988F : lon, 'E', 'W', "000");
+  return FormatPlanAngle(std::fabs(lon) == 180.0F ? -179.9988 : lon, 'E', 'W', "000");
 }
 
 std::string FormatMagVar(float variation) {
