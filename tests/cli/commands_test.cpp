@@ -1,0 +1,105 @@
+#include "cli/commands.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/startup/small_home.h"
+
+namespace {
+
+struct CommandRun {
+  int exitCode;
+  std::string out;
+  std::string err;
+  Json Document() const { return Json::parse(out); }
+};
+
+template <class Command>
+CommandRun Capture(const Command& command) {
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  const int code = command();
+  // In this order: standard output, standard error.
+  std::string out = testing::internal::GetCapturedStdout();
+  return {code, std::move(out), testing::internal::GetCapturedStderr()};
+}
+
+CliOptions JsonFor(const SmallHome& home) { return {AppFolder(home.Path()), std::nullopt, true}; }
+
+}  // namespace
+
+TEST(Cli, InfoCountsTheRowsInUse) {
+  const SmallHome home;
+  const CommandRun run = Capture([&] { return RunInfo(JsonFor(home)); });
+  ASSERT_EQ(run.exitCode, exitDone) << run.err;
+  const Json document = run.Document();
+  EXPECT_EQ(document["fsVersion"], "2004");
+  EXPECT_EQ(document["airac"], "2013.10");
+  EXPECT_EQ(document["tables"]["airports"], 2);
+  EXPECT_EQ(document["tables"]["intersections"], 1);
+  EXPECT_EQ(document["tables"]["worldPolygons"], 1);
+}
+
+TEST(Cli, AMissingFileIsNamedWithTheCommandThatBuildsOne) {
+  const SmallHome home;
+  home.Remove("database/vor.vlm");
+  const CommandRun run = Capture([&] { return RunFind(JsonFor(home), "EDDF"); });
+  EXPECT_EQ(run.exitCode, exitNotDone);
+  EXPECT_TRUE(run.out.empty());
+  EXPECT_NE(run.err.find("vor.vlm"), std::string::npos);
+  EXPECT_NE(run.err.find("--bundled"), std::string::npos);
+}
+
+TEST(Cli, FindListsEveryKindAndTakesSmallLetters) {
+  const SmallHome home;
+  const struct {
+    const char *ident, *kind;
+  } cases[] = {{"eddf", "airport"}, {"TABUM", "intersection"}, {"FFM", "VOR"}, {"fr", "NDB"}, {"FIXED", "fix"}};
+  for (const auto& c : cases) {
+    const CommandRun run = Capture([&] { return RunFind(JsonFor(home), c.ident); });
+    ASSERT_EQ(run.exitCode, exitDone) << c.ident;
+    EXPECT_EQ(run.Document()[0]["kind"], c.kind);
+  }
+  const CommandRun none = Capture([&] { return RunFind(JsonFor(home), "NOPE"); });
+  EXPECT_EQ(none.exitCode, exitNotDone);
+  EXPECT_EQ(none.Document(), Json::array());
+}
+
+TEST(Cli, CourseRefusesPositionsOffTheGlobe) {
+  const CliOptions options{AppFolder("/"), std::nullopt, true};
+  EXPECT_EQ(Capture([&] { return RunCourse(options, {91, 0, 0, 0}); }).exitCode, exitWrongUsage);
+  EXPECT_EQ(Capture([&] { return RunCourse(options, {0, 0, 0, -181}); }).exitCode, exitWrongUsage);
+  const CommandRun good = Capture([&] { return RunCourse(options, {0, 179.5, 0, -179.5}); });
+  EXPECT_NEAR(good.Document()["distanceNM"].get<double>(), 60, 0.001);
+}
+
+TEST(Cli, AFloatPrintsTheFewestDigitsThatReadBack) {
+  EXPECT_EQ(JsonNumber(8.57F).dump(), "8.57");
+  EXPECT_EQ(JsonNumber(110.3F).dump(), "110.3");
+  EXPECT_EQ(JsonNumber(-0.0F).dump(), "0");
+  EXPECT_EQ(JsonNumber(std::nanf("")).dump(), "null");
+}
+
+TEST(Cli, APlanIsPrintedAndSavedOrToldWhyNot) {
+  const SmallHome home;
+  PlanRequest request{"EDDF", "eddm", PlanMode::direct, 1, (home.Path() / "direct.pln").string()};
+  const CommandRun direct = Capture([&] { return RunPlan(JsonFor(home), request); });
+  ASSERT_EQ(direct.exitCode, exitDone) << direct.err;
+  EXPECT_EQ(direct.Document()["aircraft"]["name"], "Slow");
+  EXPECT_EQ(direct.Document()["legs"].size(), 2u);
+  EXPECT_EQ(home.Folder().Read("direct.pln").rfind("[Flightplan]\r\n", 0), 0u);
+
+  request.saveAs = (home.Path() / "no/folder/x.pln").string();
+  EXPECT_EQ(Capture([&] { return RunPlan(JsonFor(home), request); }).exitCode, exitNotDone);
+
+  // The small world has no airways: the message is told and nothing is saved.
+  request = {"EDDF", "EDDM", PlanMode::highAltitude, std::nullopt, (home.Path() / "high.pln").string()};
+  const CommandRun high = Capture([&] { return RunPlan(JsonFor(home), request); });
+  EXPECT_EQ(high.exitCode, exitNotDone);
+  EXPECT_FALSE(high.Document()["messages"].empty());
+  EXPECT_FALSE(std::filesystem::exists(home.Path() / "high.pln"));
+
+  for (const char* unknown : {"XXXX", "AFIL", "ZZZZ", ""}) {
+    request.destination = unknown;
+    EXPECT_EQ(Capture([&] { return RunPlan(JsonFor(home), request); }).exitCode, exitNotDone) << unknown;
+  }
+}
