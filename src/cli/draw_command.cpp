@@ -18,7 +18,8 @@
 
 namespace {
 
-constexpr int largestSide = 16384;  // pixels
+constexpr int smallestSide = 16;  // pixels
+constexpr int largestSide = 16384;
 
 int WrongUsage(const std::string& reason) {
   std::fprintf(stderr, "velmora-cli: %s\n", reason.c_str());
@@ -26,11 +27,36 @@ int WrongUsage(const std::string& reason) {
 }
 
 template <class Number>
-std::optional<Number> WholeNumber(std::string_view text) {
+std::optional<Number> NumberIn(std::string_view text) {
   Number value{};
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
   return value;
+}
+
+// "50.1,8.6" into the request.
+void TakeCenter(const std::string& text, DrawRequest& request) {
+  const std::size_t comma = std::min(text.find(','), text.size());
+  const auto lat = NumberIn<double>(std::string_view(text).substr(0, comma));
+  const auto lon = NumberIn<double>(std::string_view(text).substr(std::min(comma + 1, text.size())));
+  if (!lat || !lon || !(std::abs(*lat) <= 90) || !(std::abs(*lon) <= 180))
+    throw CLI::ValidationError("--center", "expects LAT,LON in degrees, such as 50.03,8.57");
+  request.centerLat = *lat;
+  request.centerLon = *lon;
+}
+
+// "1600x1000" into the request.
+void TakeSize(const std::string& text, DrawRequest& request) {
+  const std::size_t cross = std::min(text.find_first_of("xX"), text.size());
+  const auto width = NumberIn<int>(std::string_view(text).substr(0, cross));
+  const auto height = NumberIn<int>(std::string_view(text).substr(std::min(cross + 1, text.size())));
+  const auto usable = [](std::optional<int> side) {
+    return side && *side >= smallestSide && *side <= largestSide;
+  };
+  if (!usable(width) || !usable(height))
+    throw CLI::ValidationError("--size", "expects WIDTHxHEIGHT in pixels, 16 to 16384 each");
+  request.width = *width;
+  request.height = *height;
 }
 
 // The row of the zoom table that is asked for; -1 if there is none such.
@@ -92,27 +118,27 @@ void PrintResult(const CliOptions& options, const DrawRequest& request, const Ma
 
 }  // namespace
 
-std::optional<CenterText> ParseCenter(const std::string& text) {
-  const std::size_t comma = text.find(',');
-  if (comma == std::string::npos) return std::nullopt;
-  const auto lat = WholeNumber<double>(std::string_view(text).substr(0, comma));
-  const auto lon = WholeNumber<double>(std::string_view(text).substr(comma + 1));
-  if (!lat || !lon || !(std::abs(*lat) <= 90) || !(std::abs(*lon) <= 180)) return std::nullopt;
-  return CenterText{*lat, *lon};
-}
-
-std::optional<SizeText> ParseSize(const std::string& text) {
-  const std::size_t cross = text.find_first_of("xX");
-  if (cross == std::string::npos) return std::nullopt;
-  const auto width = WholeNumber<int>(std::string_view(text).substr(0, cross));
-  const auto height = WholeNumber<int>(std::string_view(text).substr(cross + 1));
-  const auto usable = [](std::optional<int> side) { return side && *side >= 16 && *side <= largestSide; };
-  if (!usable(width) || !usable(height)) return std::nullopt;
-  return SizeText{*width, *height};
+void AddDrawCommand(CLI::App& app, DrawRequest& request) {
+  CLI::App* draw = app.add_subcommand("draw", "Draw the map as a picture");
+  draw->add_option_function<std::string>(
+          "--center", [&request](const std::string& text) { TakeCenter(text, request); }, "Middle of the map")
+      ->type_name("LAT,LON");
+  CLI::Option* range =
+      draw->add_option("--range", request.rangeNM, "Height of the map, a row of the zoom table");
+  range->type_name("NM");
+  draw->add_option("--zoom", request.zoomIndex, "Row of the zoom table")->type_name("INDEX")->excludes(range);
+  draw->add_option_function<std::string>(
+          "--size", [&request](const std::string& text) { TakeSize(text, request); },
+          "Pixels, 1600x1000 if not given")
+      ->type_name("WxH");
+  draw->add_option("--layers", request.layers, "Of coastlines, airports, jet, victor, plan; all if not given")
+      ->delimiter(',')
+      ->type_name("A,B,C");
+  draw->add_option("--plan", request.planFile, "A saved plan")->type_name("FILE.pln");
+  draw->add_option("--out", request.out, "The picture")->type_name("FILE.png")->required();
 }
 
 int RunDraw(const CliOptions& options, const DrawRequest& request) {
-  if (request.out.empty()) return WrongUsage("draw needs --out FILE.png");
   if (!request.planFile.empty()) return Fail("draw --plan: saved plans cannot be read yet");
   const Settings settings = ReadIni(options.home).settings;
   const int row = RowOf(request, settings.SCALE);

@@ -1,6 +1,7 @@
 // "velmora-cli draw": the map as a picture, by the same layers as the window.
 #pragma once
 
+#include <CLI/CLI.hpp>
 #include <optional>
 #include <string>
 #include <vector>
@@ -8,8 +9,8 @@
 #include "cli/cli_output.h"
 
 struct DrawRequest {
-  double centerLat = 0;
-  double centerLon = 0;
+  double centerLat = 50;
+  double centerLon = 8.5;
   std::optional<int> rangeNM;    // a range of the zoom table
   std::optional<int> zoomIndex;  // or its row; neither: the settings' row
   int width = 1600;
@@ -19,17 +20,8 @@ struct DrawRequest {
   std::string out;                  // a .png file
 };
 
-// "LAT,LON" and "WxH" as the command line has them; nothing if they are not so.
-struct CenterText {
-  double lat;
-  double lon;
-};
-std::optional<CenterText> ParseCenter(const std::string& text);
-struct SizeText {
-  int width;
-  int height;
-};
-std::optional<SizeText> ParseSize(const std::string& text);
+// Adds the command's options; they are put into request when the command line is parsed.
+void AddDrawCommand(CLI::App& app, DrawRequest& request);
 
 // Draws the picture and writes it whole. Prints the result as the other
 // commands do; the exit code. The map's scale is the plain scale of its row.
