@@ -204,7 +204,7 @@ class Builder {
     airportFiles = MakeAirportFiles(
         world.airports, world.navaids.localizers, "apt.dat",
         [&](SourcePosition p) { return world.model.Declination(p, year); },
-        [&](SourcePosition p) { return outlines.At(p); }, report.rejects);
+        [&](SourcePosition p) { return outlines.Near(p); }, report.rejects);
     const std::string folder = "database/FS09/";
     staged.Write(folder + "airport.vlm", airportFiles.airport);
     staged.Write(folder + "ils.vlm", airportFiles.ils);

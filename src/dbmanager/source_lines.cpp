@@ -43,7 +43,7 @@ class GzipFile {
     int code = Z_OK;
     const char* words = gzerror(file, &code);
     if (code == Z_BUF_ERROR) throw BuildError(path.string() + ": the compressed data end too early");
-    if (got < 0) throw BuildError(path.string() + ": damaged (" + words + ")");
+    if (got < 0) throw BuildError(words);  // which name the file
     return 0;
   }
 

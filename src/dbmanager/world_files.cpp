@@ -186,3 +186,13 @@ const Country* CountryOutlines::At(SourcePosition position) const {
   }
   return nullptr;
 }
+
+const Country* CountryOutlines::Near(SourcePosition position) const {
+  if (const Country* country = At(position)) return country;
+  for (const double miles : {3.0, 6.0, 12.0, 20.0, 30.0}) {
+    for (int course = 0; course < 360; course += 45) {
+      if (const Country* country = At(Offset(position, course, miles))) return country;
+    }
+  }
+  return nullptr;
+}

@@ -27,6 +27,10 @@ class CountryOutlines {
   explicit CountryOutlines(const Outlines& outlines);
   // Null at sea and where the outline belongs to no known country.
   const Country* At(SourcePosition position) const;
+  // The same for a place off a coast that the outlines show too coarsely: if
+  // it lies in no country, the first found in eight directions, up to half a
+  // degree away.
+  const Country* Near(SourcePosition position) const;
 
  private:
   struct Area {
