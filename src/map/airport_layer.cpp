@@ -74,6 +74,7 @@ void PrintDesignators(const MapPaint& paint, const clsNavaid& symbol, const Runw
   const auto north = static_cast<float>(along * std::cos(DegToRad(runway.sngHeading)));
   paint.surface.ForeColor = paint.colors.RWYID;
   paint.surface.FontSize = 8;
+  paint.surface.TextHalo = true;
   PrintCentred(paint.surface, symbol.sngCenterX - east, symbol.sngCenterY + north, ident);
   PrintCentred(paint.surface, symbol.sngCenterX + east, symbol.sngCenterY - north,
                ReciprocalDesignator(ident));
@@ -159,6 +160,7 @@ void PrintLabels(const MapPaint& paint, std::vector<ShownAirport> shown) {
   });
   DrawSurface& surface = paint.surface;
   surface.ForeColor = paint.colors.AP;
+  surface.TextHalo = true;
   for (const ShownAirport& one : shown) {
     const AirportLabel label = LabelOf(*one.airport, paint.switches, paint.view.RangeNM());
     if (label.first.empty()) continue;

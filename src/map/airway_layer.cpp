@@ -17,7 +17,7 @@ float OpacityAt(std::int16_t rangeNM) {
     float opacity;
   };
   constexpr std::array<Step, 7> steps = {
-      {{50, 0.85F}, {100, 0.7F}, {200, 0.5F}, {300, 0.4F}, {500, 0.3F}, {900, 0.2F}, {2000, 0.1F}}};
+      {{50, 0.85F}, {100, 0.7F}, {200, 0.5F}, {300, 0.36F}, {500, 0.26F}, {900, 0.17F}, {2000, 0.1F}}};
   for (const Step& step : steps)
     if (rangeNM <= step.range) return step.opacity;
   return 0.06F;
@@ -70,6 +70,7 @@ void DrawAirways(const MapPaint& paint, const std::vector<AirwaySegmentRec>& seg
   surface.Opacity = 1;
   surface.ForeColor = color;
   surface.FontSize = 7.5F;
+  surface.TextHalo = true;
   std::vector<SurfaceLine> one;
   for (const AirwaySegmentRec* segment : shown) {
     one.clear();

@@ -123,7 +123,7 @@ void DrawWorld(const MapPaint& paint) {
     ForEachAppearance(paint, database.worldLines, shape, page,
                       [&](auto places, auto points) { DrawOutline(surface, places, points, page, border); });
   }
-  const Pen coast{paint.colors.COAST, 1.4F, 1};
+  const Pen coast{paint.colors.COAST, 1.2F, 1};
   for (const WorldShapeRec& shape : database.worldPolygons.shapes) {
     ForEachAppearance(paint, database.worldPolygons, shape, page,
                       [&](auto places, auto points) { DrawOutline(surface, places, points, page, coast); });

@@ -33,7 +33,8 @@ struct SurfaceStyle {
   std::int32_t ForeColor = 0;  // of Print()
   float FontSize = 9;          // points
   bool FontBold = false;
-  float Opacity = 1;  // 0 to 1, of everything that is drawn
+  bool TextHalo = false;  // a thin dark rim, for texts above lines
+  float Opacity = 1;      // 0 to 1, of everything that is drawn
 };
 
 class DrawSurface : public SurfaceStyle {

@@ -6,10 +6,6 @@
 
 namespace {
 
-QRgb* PixelRow(QImage& image, int y) {
-  return reinterpret_cast<QRgb*>(image.scanLine(y));
-}
-
 // Weight 0 to 256.
 QRgb Mixed(QRgb below, QRgb color, int weight) {
   const auto channel = [weight](int from, int to) { return from + (to - from) * weight / 256; };
@@ -38,9 +34,15 @@ float Share(float from, float side, int i) {
 
 }  // namespace
 
-void BlendPixel(QImage& image, int x, int y, QRgb color, float coverage) {
-  if (x < 0 || y < 0 || x >= image.width() || y >= image.height()) return;
-  QRgb& pixel = PixelRow(image, y)[x];
+PixelGrid::PixelGrid(QImage& image)
+    : pixels(reinterpret_cast<QRgb*>(image.bits())),
+      stride(image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))),
+      width(image.width()),
+      height(image.height()) {}
+
+void BlendPixel(const PixelGrid& grid, int x, int y, QRgb color, float coverage) {
+  if (x < 0 || y < 0 || x >= grid.width || y >= grid.height) return;
+  QRgb& pixel = grid.Row(y)[x];
   pixel = Mixed(pixel, color, std::clamp(static_cast<int>(coverage * 256), 0, 256));
 }
 
@@ -60,8 +62,8 @@ bool CutLine(QPointF& from, QPointF& to, double width, double height, double mar
   return true;
 }
 
-void BlendLine(QImage& image, QPointF from, QPointF to, QRgb color, float opacity) {
-  if (!CutLine(from, to, image.width(), image.height(), 2)) return;
+void BlendLine(const PixelGrid& grid, QPointF from, QPointF to, QRgb color, float opacity) {
+  if (!CutLine(from, to, grid.width, grid.height, 2)) return;
   // Pixel (i, j) has its middle at i + 0.5, j + 0.5.
   double x1 = from.x() - 0.5;
   double y1 = from.y() - 0.5;
@@ -84,12 +86,12 @@ void BlendLine(QImage& image, QPointF from, QPointF to, QRgb color, float opacit
     const double whole = std::floor(y);
     const int row = static_cast<int>(whole);
     const auto second = static_cast<float>(y - whole);
-    BlendPixel(image, steep ? row : x, steep ? x : row, color, opacity * (1 - second));
-    BlendPixel(image, steep ? row + 1 : x, steep ? x : row + 1, color, opacity * second);
+    BlendPixel(grid, steep ? row : x, steep ? x : row, color, opacity * (1 - second));
+    BlendPixel(grid, steep ? row + 1 : x, steep ? x : row + 1, color, opacity * second);
   }
 }
 
-void BlendSquare(QImage& image, QPointF centre, float side, QRgb color, float opacity) {
+void BlendSquare(const PixelGrid& grid, QPointF centre, float side, QRgb color, float opacity) {
   if (!(std::abs(centre.x()) < 1e6 && std::abs(centre.y()) < 1e6)) return;
   const float left = static_cast<float>(centre.x()) - side / 2;
   const float top = static_cast<float>(centre.y()) - side / 2;
@@ -98,20 +100,20 @@ void BlendSquare(QImage& image, QPointF centre, float side, QRgb color, float op
   const int count = static_cast<int>(std::ceil(side)) + 1;
   for (int row = firstRow; row < firstRow + count; ++row) {
     for (int column = firstColumn; column < firstColumn + count; ++column)
-      BlendPixel(image, column, row, color, opacity * Share(left, side, column) * Share(top, side, row));
+      BlendPixel(grid, column, row, color, opacity * Share(left, side, column) * Share(top, side, row));
   }
 }
 
-void BlendSprite(QImage& image, const QImage& sprite, QPointF centre, float opacity) {
+void BlendSprite(const PixelGrid& grid, const QImage& sprite, QPointF centre, float opacity) {
   if (!(std::abs(centre.x()) < 1e6 && std::abs(centre.y()) < 1e6)) return;
   const int left = static_cast<int>(std::floor(centre.x())) - sprite.width() / 2;
   const int top = static_cast<int>(std::floor(centre.y())) - sprite.height() / 2;
   const int weight = std::clamp(static_cast<int>(opacity * 256), 0, 256);
   const int firstColumn = std::max(0, -left);
-  const int endColumn = std::min(sprite.width(), image.width() - left);
-  for (int row = std::max(0, -top); row < sprite.height() && top + row < image.height(); ++row) {
+  const int endColumn = std::min(sprite.width(), grid.width - left);
+  for (int row = std::max(0, -top); row < sprite.height() && top + row < grid.height; ++row) {
     const auto* from = reinterpret_cast<const QRgb*>(sprite.constScanLine(row));
-    QRgb* to = PixelRow(image, top + row) + left;
+    QRgb* to = grid.Row(top + row) + left;
     for (int column = firstColumn; column < endColumn; ++column) {
       const int alpha = qAlpha(from[column]);
       if (alpha == 0) continue;

@@ -6,18 +6,31 @@
 #include <QImage>
 #include <QPointF>
 
+// The pixels of a picture (Format_RGB32), taken once for many strokes. The
+// picture must stay and not be copied meanwhile.
+struct PixelGrid {
+  explicit PixelGrid(QImage& image);
+
+  QRgb* Row(int y) const { return pixels + static_cast<std::ptrdiff_t>(y) * stride; }
+
+  QRgb* pixels;
+  std::ptrdiff_t stride;  // in pixels
+  int width;
+  int height;
+};
+
 // Mixes color into a pixel with coverage 0 to 1.
-void BlendPixel(QImage& image, int x, int y, QRgb color, float coverage);
+void BlendPixel(const PixelGrid& grid, int x, int y, QRgb color, float coverage);
 
 // A line of one pixel's width (Wu's method: each step shares its weight
 // between the two pixels that the line passes between).
-void BlendLine(QImage& image, QPointF from, QPointF to, QRgb color, float opacity);
+void BlendLine(const PixelGrid& grid, QPointF from, QPointF to, QRgb color, float opacity);
 
 // A square of side pixels around a place, its edges shared out by coverage.
-void BlendSquare(QImage& image, QPointF centre, float side, QRgb color, float opacity);
+void BlendSquare(const PixelGrid& grid, QPointF centre, float side, QRgb color, float opacity);
 
 // A sprite (premultiplied) with its middle on the nearest whole pixel.
-void BlendSprite(QImage& image, const QImage& sprite, QPointF centre, float opacity);
+void BlendSprite(const PixelGrid& grid, const QImage& sprite, QPointF centre, float opacity);
 
 // Cuts a line to a rectangle from (0, 0); false if nothing is left of it.
 bool CutLine(QPointF& from, QPointF& to, double width, double height, double margin);

@@ -1,5 +1,6 @@
 #include "windows/qt_draw_surface.h"
 
+#include <QStaticText>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -11,6 +12,7 @@ namespace {
 
 constexpr double thinLine = 1.25;  // pixels; wider lines are the painter's
 constexpr double lineMargin = 50;  // pixels kept beyond the picture when a line is cut
+constexpr double haloOpacity = 0.5;
 constexpr double hugeRadius = 64;  // pixels; larger circles are not kept as sprites
 
 QString ToQString(std::string_view text) {
@@ -59,8 +61,9 @@ void QtDrawSurface::Line(float x1, float y1, float x2, float y2, std::int32_t co
 void QtDrawSurface::Lines(std::span<const SurfaceLine> lines, std::int32_t color) {
   if (DrawStyle == DrawStyleKind::solid && PenWidth() <= thinLine) {
     const QRgb pixel = ToQRgb(color);
+    const PixelGrid grid(image);
     for (const SurfaceLine& line : lines)
-      BlendLine(image, Pixel(line.from), Pixel(line.to), pixel, Opacity);
+      BlendLine(grid, Pixel(line.from), Pixel(line.to), pixel, Opacity);
     return;
   }
   UsePen(color);
@@ -75,8 +78,9 @@ void QtDrawSurface::Polyline(std::span<const SurfacePoint> points, std::int32_t 
   if (points.size() < 2) return;
   if (DrawStyle == DrawStyleKind::solid && PenWidth() <= thinLine) {
     const QRgb pixel = ToQRgb(color);
+    const PixelGrid grid(image);
     for (std::size_t i = 1; i < points.size(); ++i)
-      BlendLine(image, Pixel(points[i - 1]), Pixel(points[i]), pixel, Opacity);
+      BlendLine(grid, Pixel(points[i - 1]), Pixel(points[i]), pixel, Opacity);
     return;
   }
   UsePen(color);
@@ -146,8 +150,9 @@ void QtDrawSurface::Circles(std::span<const SurfacePoint> centres, float radius,
     const bool plain = filled && FillColor == color;
     const QImage& disc = Disc(pixels, filled ? std::optional(ToQRgb(FillColor)) : std::nullopt,
                               plain ? std::nullopt : std::optional(ToQRgb(color)), PenWidth());
+    const PixelGrid grid(image);
     for (const SurfacePoint centre : centres)
-      BlendSprite(image, disc, Pixel(centre), Opacity);
+      BlendSprite(grid, disc, Pixel(centre), Opacity);
     return;
   }
   UsePen(color);
@@ -164,8 +169,9 @@ void QtDrawSurface::PSet(float x, float y, std::int32_t color) {
 void QtDrawSurface::Points(std::span<const SurfacePoint> points, std::int32_t color) {
   const QRgb pixel = ToQRgb(color);
   const auto side = static_cast<float>(PenWidth());
+  const PixelGrid grid(image);
   for (const SurfacePoint point : points)
-    BlendSquare(image, Pixel(point), side, pixel, Opacity);
+    BlendSquare(grid, Pixel(point), side, pixel, Opacity);
 }
 
 void QtDrawSurface::UseFont() {
@@ -177,21 +183,38 @@ void QtDrawSurface::UseFont() {
   font.setWeight(FontBold ? QFont::DemiBold : QFont::Normal);
   metrics.emplace(font);
   painter.setFont(font);
+  measuredText.clear();
 }
 
 void QtDrawSurface::Print(std::string_view text) {
   UseFont();
-  painter.setPen(ToQColor(ForeColor));
-  painter.setOpacity(Opacity);
+  QStaticText glyphs(ToQString(text));
+  glyphs.setTextFormat(Qt::PlainText);
+  glyphs.setPerformanceHint(QStaticText::AggressiveCaching);
   const QPointF corner = placement.ToPixel(CurrentX, CurrentY);
   // Whole pixels keep small letters sharp.
-  painter.drawText(QPointF(std::round(corner.x()), std::round(corner.y() + metrics->ascent())),
-                   ToQString(text));
+  const QPointF place(std::round(corner.x()), std::round(corner.y()));
+  if (TextHalo) {
+    painter.setPen(Qt::black);
+    painter.setOpacity(haloOpacity * Opacity);
+    const double step = density;
+    for (const QPointF offset :
+         {QPointF(-step, -step), QPointF(step, -step), QPointF(-step, step), QPointF(step, step)})
+      painter.drawStaticText(place + offset, glyphs);
+  }
+  painter.setPen(ToQColor(ForeColor));
+  painter.setOpacity(Opacity);
+  painter.drawStaticText(place, glyphs);
 }
 
 float QtDrawSurface::TextWidth(std::string_view text) {
   UseFont();
-  return static_cast<float>(metrics->horizontalAdvance(ToQString(text)) / placement.PixelsPerUnit());
+  if (text != measuredText || text.empty()) {
+    measuredText = text;
+    measuredWidth =
+        static_cast<float>(metrics->horizontalAdvance(ToQString(text)) / placement.PixelsPerUnit());
+  }
+  return measuredWidth;
 }
 
 float QtDrawSurface::TextHeight(std::string_view) {

@@ -11,6 +11,7 @@
 #include <QImage>
 #include <QPainter>
 #include <optional>
+#include <string>
 
 #include "map/map_view.h"
 #include "platform/draw_surface.h"
@@ -72,6 +73,8 @@ class QtDrawSurface : public DrawSurface {
   float fontSize = -1;
   bool fontBold = false;
   std::optional<QFontMetricsF> metrics;
+  std::string measuredText;  // the last text that was measured: callers ask twice
+  float measuredWidth = 0;
   QHash<QString, QImage> discs;
 };
 
