@@ -2,25 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <stdexcept>
 
 #include "base/numbers.h"
 #include "navdata/geodesy.h"
-
-namespace {
-
-struct Direction {
-  double x, y, z;
-};
-
-Direction DirectionOf(float lat, float lon) {
-  const double phi = DegToRad(lat);
-  const double lambda = DegToRad(lon);
-  return {std::cos(phi) * std::cos(lambda), std::cos(phi) * std::sin(lambda), std::sin(phi)};
-}
-
-}  // namespace
 
 std::int32_t ParseAltitude(std::string_view text) {
   text = Trimmed(text);
@@ -28,134 +13,195 @@ std::int32_t ParseAltitude(std::string_view text) {
   return ValInt32(text);
 }
 
-std::span<const ConnectionRec> NetworkLinks(const NavDatabase& database, int node, char level) {
-  if (node < 0 || static_cast<std::size_t>(node) >= database.intersections.size()) return {};
-  const IntersectionRec& intersection = database.intersections[static_cast<std::size_t>(node)];
-  return level == 'V' ? database.LowAlt(intersection) : database.HighAlt(intersection);
-}
-
-bool IsNode(const NavDatabase& database, int node) {
-  return node > 0 && static_cast<std::size_t>(node) < database.intersections.size();
-}
-
-AirwaySearch::AirwaySearch(const NavDatabase& database)
-    : database(database), nodes(database.intersections.size()), directions(database.intersections.size()) {
-  for (std::size_t i = 0; i < directions.size(); ++i) {
-    const Direction d = DirectionOf(database.intersections[i].sngLat, database.intersections[i].sngLon);
-    directions[i] = {static_cast<float>(d.x), static_cast<float>(d.y), static_cast<float>(d.z)};
+// The circle around a position in which a search may end.
+class AirwaySearch::Circle {
+ public:
+  Circle(const NavDatabase& database, const AirwayGraph& graph, float lat, float lon, float radius,
+         std::vector<float>& toGo)
+      : database(database),
+        graph(graph),
+        lat(lat),
+        lon(lon),
+        radius(radius),
+        middle(AirwayGraph::DirectionTo(lat, lon)),
+        nearest(static_cast<float>(radius < 0.0f ? 2.0 : std::cos(RadiusWithMargin()) - 1e-6)),
+        toGo(toGo) {
+    toGo.assign(static_cast<std::size_t>(graph.VertexCount()), -1.0f);
   }
-}
+
+  // The scalar product rules out far vertices cheaply; whatever may lie within
+  // the radius is measured. The margins are many times the rounding of the
+  // product and the epsilon by which GreatCircleDistance() keeps meridians apart.
+  bool Contains(int vertex) const {
+    if (CosineTo(vertex) < nearest) return false;
+    const IntersectionRec& at = database.intersections[static_cast<std::size_t>(graph.NodeOf(vertex))];
+    return GreatCircleDistance(at.sngLat, at.sngLon, lat, lon) <= radius;
+  }
+
+  // No way from the vertex into the circle is shorter than this (NM). The
+  // margin of 2 NM covers the arc cosine of a 32-bit product.
+  float ToGo(int vertex) const {
+    float& known = toGo[static_cast<std::size_t>(vertex)];
+    if (known < 0.0f) {
+      const float arc = std::acos(std::clamp(CosineTo(vertex), -1.0f, 1.0f));
+      const double distance = RadToDeg(arc) * 60.0 - 2.0 - radius;
+      known = distance > 0.0 ? static_cast<float>(distance * graph.ShortestLinkRatio()) : 0.0f;
+    }
+    return known;
+  }
+
+ private:
+  double RadiusWithMargin() const { return std::min(DegToRad((radius + 0.1) / 60.0), geodesyPi); }
+  float CosineTo(int vertex) const {
+    const AirwayGraph::Direction& d = graph.DirectionOf(vertex);
+    return d.x * middle.x + d.y * middle.y + d.z * middle.z;
+  }
+
+  const NavDatabase& database;
+  const AirwayGraph& graph;
+  float lat, lon, radius;
+  AirwayGraph::Direction middle;
+  float nearest;
+  std::vector<float>& toGo;
+};
 
 int AirwaySearch::ShortestPathToPosition(int startNode, char level, float destLat, float destLon,
                                          float radius) {
-  // The scalar product rules out far nodes cheaply; whatever may lie within the
-  // radius is measured. The margin is many times the rounding of the products,
-  // and the epsilon that GreatCircleDistance() keeps equal meridians apart by.
-  const Direction to = DirectionOf(destLat, destLon);
-  const double angle = std::min(DegToRad((radius + 0.1) / 60.0), geodesyPi);
-  const double nearest = radius < 0.0f ? 2.0 : std::cos(angle) - 1e-6;
-  const auto isGoal = [&](int node) {
-    const UnitVector& d = directions[static_cast<std::size_t>(node)];
-    if (d.x * to.x + d.y * to.y + d.z * to.z < nearest) return false;
-    const IntersectionRec& at = database.intersections[static_cast<std::size_t>(node)];
-    return GreatCircleDistance(at.sngLat, at.sngLon, destLat, destLon) <= radius;
+  const AirwayGraph& network = UseNetwork(level);
+  const Circle circle(database, network, destLat, destLon, radius, toGo);
+
+  struct Hurry {
+    const Circle& circle;
+    bool IsGoal(int vertex) const { return circle.Contains(vertex); }
+    float Key(int vertex, float cost) const { return cost + circle.ToGo(vertex); }
+    bool Keep(int, float) const { return true; }
   };
-  return Search(startNode, level, isGoal);
+  const int someEnd = Search(startNode, Hurry{circle});
+  if (someEnd < 0) return someEnd;
+
+  struct Within {
+    const Circle& circle;
+    float mostCost;
+    bool IsGoal(int vertex) const { return circle.Contains(vertex); }
+    float Key(int, float cost) const { return cost; }
+    bool Keep(int vertex, float cost) const { return cost + circle.ToGo(vertex) <= mostCost; }
+  };
+  // One NM more than enough, for the rounding of the sums.
+  return Search(startNode, Within{circle, SearchCost(someEnd) + 1.0f});
 }
 
 int AirwaySearch::ShortestPathToNode(int startNode, char level, int endNode) {
-  return Search(startNode, level, [endNode](int node) { return node == endNode; });
+  struct Everywhere {
+    int end;
+    bool IsGoal(int vertex) const { return vertex == end; }
+    float Key(int, float cost) const { return cost; }
+    bool Keep(int, float) const { return true; }
+  };
+  return Search(startNode, Everywhere{UseNetwork(level).VertexOf(endNode)});
 }
 
-template <class IsGoal>
-int AirwaySearch::Search(int startNode, char level, const IsGoal& isGoal) {
+const AirwayGraph& AirwaySearch::UseNetwork(char level) {
+  std::optional<AirwayGraph>& network = level == 'V' ? low : high;
+  if (!network) network.emplace(database, level);
+  graph = &*network;
+  return *graph;
+}
+
+template <class Guide>
+int AirwaySearch::Search(int startNode, const Guide& guide) {
   if (!IsNode(database, startNode)) throw std::out_of_range("the airway search starts at no node");
-  BeginSearch(startNode);
-  for (const ConnectionRec& link : NetworkLinks(database, startNode, level))
-    Relax(startNode, link, 0.0f);
+  states.assign(static_cast<std::size_t>(graph->VertexCount()), VertexState{});
+  heap.clear();
+  const int start = graph->VertexOf(startNode);
+  if (start < 0) return -startNode;
+  states[static_cast<std::size_t>(start)].cost = 0.0f;
+  RelaxArcs(start, 0.0f, guide);
   for (int iterations = 1; !heap.empty() && iterations <= iterationLimit; ++iterations) {
-    const int node = Pop().node;
-    NodeState& state = nodes[static_cast<std::size_t>(node)];
-    if (IsDone(state)) continue;  // an old entry of a node that was reached by a shorter way since
-    state.mark = doneMark;
-    if (isGoal(node)) return node;
-    for (const ConnectionRec& link : NetworkLinks(database, node, level))
-      Relax(node, link, state.cost);
+    const HeapEntry entry = Pop();
+    const float cost = states[static_cast<std::size_t>(entry.vertex)].cost;
+    // An old entry of a vertex that a shorter way has reached since.
+    if (entry.key != guide.Key(entry.vertex, cost)) continue;
+    if (guide.IsGoal(entry.vertex)) return graph->NodeOf(entry.vertex);
+    RelaxArcs(entry.vertex, cost, guide);
   }
   return -startNode;
 }
 
-void AirwaySearch::Relax(int node, const ConnectionRec& link, float costSoFar) {
-  if (!IsNode(database, link.lngNext)) return;
-  NodeState& target = nodes[static_cast<std::size_t>(link.lngNext)];
-  if (IsDone(target)) return;
-  const float cost = link.sngDistance + costSoFar;
-  if (!(cost < (IsReached(target) ? target.cost : unreachedCost))) return;
-  target = {cost, node, &link, openMark};
-  Push({cost, link.lngNext});
-}
-
-void AirwaySearch::BeginSearch(int startNode) {
-  if (openMark >= std::numeric_limits<std::uint32_t>::max() - 3) {
-    std::fill(nodes.begin(), nodes.end(), NodeState{});
-    openMark = 0;
+// A settled vertex is never dearer than the one whose arcs are looked at, and
+// no length is negative: the comparison leaves it alone.
+template <class Guide>
+void AirwaySearch::RelaxArcs(int vertex, float costSoFar, const Guide& guide) {
+  const std::uint32_t end = graph->FirstArc(vertex + 1);
+  for (std::uint32_t i = graph->FirstArc(vertex); i < end; ++i) {
+    const AirwayGraph::Arc& arc = graph->ArcAt(i);
+    const float cost = arc.length + costSoFar;
+    VertexState& target = states[static_cast<std::size_t>(arc.target)];
+    if (!(cost < target.cost) || !guide.Keep(arc.target, cost)) continue;
+    target = {cost, i};
+    Push({guide.Key(arc.target, cost), arc.target});
   }
-  openMark += 2;
-  doneMark = openMark + 1;
-  heap.clear();
-  nodes[static_cast<std::size_t>(startNode)] = {0.0f, 0, nullptr, doneMark};
 }
 
-// Sifts up until the parent's cost is not greater.
+// Sifts up until the parent's key is not greater.
 void AirwaySearch::Push(HeapEntry entry) {
   if (heap.size() >= heapLimit) throw std::length_error("the heap of the airway search is full");
   std::size_t place = heap.size();
   heap.push_back(entry);
   while (place > 0) {
     const std::size_t parent = (place - 1) / 2;
-    if (!(heap[parent].cost > entry.cost)) break;
+    if (!(heap[parent].key > entry.key)) break;
     heap[place] = heap[parent];
     place = parent;
   }
   heap[place] = entry;
 }
 
-// Moves the last entry to the top and sifts it down towards the cheaper child,
+// Moves the last entry to the top and sifts it down towards the smaller child,
 // the left one on a tie.
 AirwaySearch::HeapEntry AirwaySearch::Pop() {
   const HeapEntry top = heap.front();
   const HeapEntry last = heap.back();
   heap.pop_back();
+  const std::size_t size = heap.size();
+  if (size == 0) return top;
+  HeapEntry* const entries = heap.data();
   std::size_t place = 0;
-  for (std::size_t child = 1; child < heap.size(); child = 2 * place + 1) {
-    if (child + 1 < heap.size() && heap[child + 1].cost < heap[child].cost) ++child;
-    if (!(heap[child].cost < last.cost)) break;
-    heap[place] = heap[child];
+  for (std::size_t child = 1; child < size; child = 2 * place + 1) {
+    if (child + 1 < size) child += entries[child + 1].key < entries[child].key ? 1 : 0;
+    if (!(entries[child].key < last.key)) break;
+    entries[place] = entries[child];
     place = child;
   }
-  if (!heap.empty()) heap[place] = last;
+  entries[place] = last;
   return top;
+}
+
+const AirwaySearch::VertexState* AirwaySearch::StateOf(int node) const {
+  const int vertex = graph == nullptr ? -1 : graph->VertexOf(node);
+  if (vertex < 0 || static_cast<std::size_t>(vertex) >= states.size()) return nullptr;
+  const VertexState& state = states[static_cast<std::size_t>(vertex)];
+  return state.cost < unreachedCost ? &state : nullptr;
 }
 
 std::vector<AirwaySearch::Step> AirwaySearch::PathTo(int node) const {
   std::vector<Step> path;
-  while (IsNode(database, node) && IsReached(nodes[static_cast<std::size_t>(node)])) {
-    const NodeState& state = nodes[static_cast<std::size_t>(node)];
+  for (const VertexState* state = StateOf(node); state != nullptr; state = StateOf(node)) {
     Step step{node, {}, 0, 0};
-    if (state.link != nullptr) {
-      step.SearchAirway = state.link->strAirway;
-      step.SearchMinAlt = ParseAltitude(state.link->strMinAlt.View());
-      step.SearchMaxAlt = ParseAltitude(state.link->strMaxAlt.View());
+    if (state->arc != noArc) {
+      const ConnectionRec& link = graph->LinkOf(state->arc);
+      step.SearchAirway = link.strAirway;
+      step.SearchMinAlt = ParseAltitude(link.strMinAlt.View());
+      step.SearchMaxAlt = ParseAltitude(link.strMaxAlt.View());
+      node = graph->NodeOf(graph->SourceOf(state->arc));
     }
     path.push_back(step);
-    node = state.previous;
+    if (state->arc == noArc) break;
   }
   std::reverse(path.begin(), path.end());
   return path;
 }
 
 float AirwaySearch::SearchCost(int node) const {
-  if (!IsNode(database, node)) return unreachedCost;
-  const NodeState& state = nodes[static_cast<std::size_t>(node)];
-  return IsReached(state) ? state.cost : unreachedCost;
+  const VertexState* state = StateOf(node);
+  return state == nullptr ? unreachedCost : state->cost;
 }

@@ -3,29 +3,31 @@
 // means none), cost is the sum of link lengths in NM, added up in 32-bit
 // floats. Network 'V' walks the low-altitude links, any other the high ones.
 // One object serves any number of searches and keeps its memory between them.
+//
+// A search towards a position runs twice. The first run hurries towards the
+// goal (A*: P. Hart, N. Nilsson, B. Raphael, 1968) and gives a cost that the
+// way need not exceed; the second is Dijkstra's, and passes over every vertex
+// from which the goal cannot be reached at that cost. Those are on no shortest
+// way, so the result is that of the whole search.
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
+#include "flightplan/airway_graph.h"
 #include "navdata/nav_database.h"
 
 // An altitude text of a link in feet: "FL" and hundreds of feet, else feet.
 // 0 if it holds no number.
 std::int32_t ParseAltitude(std::string_view text);
 
-// The links of a node on a network; none for a row outside the table.
-std::span<const ConnectionRec> NetworkLinks(const NavDatabase& database, int node, char level);
-
-// True for a row number that a link may lead to.
-bool IsNode(const NavDatabase& database, int node);
-
 class AirwaySearch {
  public:
   // Entries that the heap holds at most; one more throws std::length_error.
   static constexpr int heapLimit = 23000;
+  // Heap entries that a search takes at most.
   static constexpr int iterationLimit = 100000;
 
   // One node of the way found, with the link by which it was reached (empty
@@ -37,58 +39,57 @@ class AirwaySearch {
     std::int32_t SearchMaxAlt = 0;
   };
 
-  // The database must outlive the search and keep its intersections.
-  explicit AirwaySearch(const NavDatabase& database);
+  // The database must outlive the search and stay as it is from the first
+  // search on: each network is laid out when it is first asked for.
+  explicit AirwaySearch(const NavDatabase& database) : database(database) {}
 
   // The first settled node at most radius NM from the position; the start node
   // itself is not tested. The negated start node if the heap runs empty or
-  // after iterationLimit settled entries. Throws std::out_of_range if the
-  // start is no node.
+  // after iterationLimit entries. Throws std::out_of_range if the start is no
+  // node.
   int ShortestPathToPosition(int startNode, char level, float destLat, float destLon, float radius);
 
   // The same search with a node as its goal.
   int ShortestPathToNode(int startNode, char level, int endNode);
 
   // Of the last search: the way to a settled node from the start, and its cost
-  // in NM. A node that was not reached gives an empty way and the value that
-  // stands for "no way yet".
+  // in NM. A node that was not reached gives an empty way and unreachedCost.
   std::vector<Step> PathTo(int node) const;
   float SearchCost(int node) const;
 
- private:
   static constexpr float unreachedCost = 2147483648.0f;
 
-  // What a search knows of a node. It counts only if mark belongs to the
-  // search that runs: a new search costs no reset of the table.
-  struct NodeState {
+ private:
+  static constexpr std::uint32_t noArc = 0xFFFFFFFFu;
+
+  // What a search knows of a vertex.
+  struct VertexState {
     float cost = unreachedCost;
-    std::int32_t previous = 0;
-    const ConnectionRec* link = nullptr;
-    std::uint32_t mark = 0;
+    std::uint32_t arc = noArc;  // by which it was reached
   };
 
   struct HeapEntry {
-    float cost;
-    std::int32_t node;
+    float key;
+    std::int32_t vertex;
   };
 
-  struct UnitVector {
-    float x = 0, y = 0, z = 0;
-  };
+  class Circle;
 
-  template <class IsGoal>
-  int Search(int startNode, char level, const IsGoal& isGoal);
-  void Relax(int node, const ConnectionRec& link, float costSoFar);
-  void BeginSearch(int startNode);
+  // Guide says where the search ends (IsGoal), in which order it settles (Key)
+  // and which ways it need not follow (Keep).
+  template <class Guide>
+  int Search(int startNode, const Guide& guide);
+  template <class Guide>
+  void RelaxArcs(int vertex, float costSoFar, const Guide& guide);
+  const AirwayGraph& UseNetwork(char level);
   void Push(HeapEntry entry);
   HeapEntry Pop();
-  bool IsDone(const NodeState& state) const { return state.mark == doneMark; }
-  bool IsReached(const NodeState& state) const { return state.mark == doneMark || state.mark == openMark; }
+  const VertexState* StateOf(int node) const;
 
   const NavDatabase& database;
-  std::vector<NodeState> nodes;
-  std::vector<UnitVector> directions;
+  std::optional<AirwayGraph> low, high;
+  const AirwayGraph* graph = nullptr;  // of the last search
+  std::vector<VertexState> states;
   std::vector<HeapEntry> heap;  // entry 0 is the top
-  std::uint32_t openMark = 0;   // even and odd number of the running search
-  std::uint32_t doneMark = 0;
+  std::vector<float> toGo;      // by vertex, NM, -1: not yet known
 };

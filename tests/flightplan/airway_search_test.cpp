@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <random>
+#include <sstream>
 
 #include "tests/flightplan/drawn_world.h"
 
@@ -157,41 +159,81 @@ TEST(AirwaySearch, EndsWithAFullHeap) {
   EXPECT_EQ(overfull.ShortestPathToNode(tooMany.Node("A"), 'V', tooMany.Node("M7")), tooMany.Node("M7"));
 }
 
-TEST(AirwaySearch, AgreesWithRelaxationToTheEndOnRandomGraphs) {
-  std::mt19937 random(20090810);
-  for (int round = 0; round < 30; ++round) {
-    std::string drawing;
-    for (int i = 0; i < 400; ++i) {
-      const int length = 1 + static_cast<int>(random() % 40);
-      drawing += "N" + std::to_string(random() % 120) + " --" + std::to_string(length) +
-                 (random() % 3 == 0 ? "-> N" : "-- N") + std::to_string(random() % 120) + " V1\n";
-    }
-    DrawnWorld world(drawing);
-    const auto& database = world.database;
-    std::vector<float> cost(database.intersections.size(), 2147483648.0f);
-    cost[1] = 0;
-    for (bool changed = true; changed;) {
-      changed = false;
-      for (std::size_t node = 1; node < cost.size(); ++node) {
-        for (const ConnectionRec& link : database.LowAlt(database.intersections[node])) {
-          float& target = cost[static_cast<std::size_t>(link.lngNext)];
-          if (cost[node] + link.sngDistance < target && cost[node] < 1e9f) {
-            target = cost[node] + link.sngDistance;
-            changed = true;
-          }
+// The least cost of every node, by relaxing all links until nothing changes.
+std::vector<float> LeastCosts(const NavDatabase& database, int start) {
+  std::vector<float> cost(database.intersections.size(), AirwaySearch::unreachedCost);
+  cost[static_cast<std::size_t>(start)] = 0;
+  for (bool changed = true; changed;) {
+    changed = false;
+    for (std::size_t node = 1; node < cost.size(); ++node) {
+      if (cost[node] >= AirwaySearch::unreachedCost) continue;
+      for (const ConnectionRec& link : database.LowAlt(database.intersections[node])) {
+        float& target = cost[static_cast<std::size_t>(link.lngNext)];
+        if (cost[node] + link.sngDistance < target) {
+          target = cost[node] + link.sngDistance;
+          changed = true;
         }
       }
     }
+  }
+  return cost;
+}
+
+// 120 nodes around the date line with random links. detour(great circle
+// distance) is a link's length.
+template <class Detour>
+DrawnWorld RandomWorld(std::mt19937& random, const Detour& detour) {
+  std::uniform_real_distribution<float> lat(-60, 80), lon(130, 230);
+  std::vector<Position> places(120);
+  std::ostringstream drawing;
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    places[i] = {lat(random), lon(random)};
+    if (places[i].lon > 180) places[i].lon -= 360;
+    drawing << "N" << i << " " << places[i].lat << " " << places[i].lon << "\n";
+  }
+  for (int link = 0; link < 350; ++link) {
+    const std::size_t from = random() % places.size();
+    const std::size_t to = random() % places.size();
+    const Position &a = places[from], &b = places[to];
+    drawing << "N" << from << " --" << detour(GreatCircleDistance(a.lat, a.lon, b.lat, b.lon))
+            << (random() % 3 == 0 ? "->" : "--") << " N" << to << " V1\n";
+  }
+  return DrawnWorld(drawing.str());
+}
+
+TEST(AirwaySearch, FindsTheLeastCostOnRandomGraphs) {
+  std::mt19937 random(20090810);
+  std::uniform_real_distribution<float> any(0, 1);
+  const std::function<float(float)> detours[] = {
+      [](float distance) { return distance; },                          // as the crow flies
+      [&](float distance) { return distance * (1 + any(random)); },     // with bends
+      [](float distance) { return std::floor(distance / 100) * 100; },  // shorter, and full of ties
+      [&](float) { return std::floor(any(random) * 40); },              // without regard to the places
+  };
+  int routes = 0;
+  for (int round = 0; round < 40; ++round) {
+    const DrawnWorld world = RandomWorld(random, detours[round % 4]);
+    const auto& database = world.database;
+    const std::vector<float> cost = LeastCosts(database, 1);
     AirwaySearch search(database);
     for (int goal = 2; goal < static_cast<int>(cost.size()); ++goal) {
-      const int end = search.ShortestPathToNode(1, 'V', goal);
-      const float expected = cost[static_cast<std::size_t>(goal)];
-      ASSERT_EQ(end, expected < 1e9f ? goal : -1);
-      if (end > 0) {
-        ASSERT_EQ(search.SearchCost(goal), expected);
+      const IntersectionRec& at = database.intersections[static_cast<std::size_t>(goal)];
+      const float radius = any(random) * 600;
+      float least = AirwaySearch::unreachedCost;
+      for (std::size_t node = 2; node < cost.size(); ++node) {
+        const IntersectionRec& other = database.intersections[node];
+        const float distance = GreatCircleDistance(other.sngLat, other.sngLon, at.sngLat, at.sngLon);
+        if (distance <= radius) least = std::min(least, cost[node]);
       }
+      const int near = search.ShortestPathToPosition(1, 'V', at.sngLat, at.sngLon, radius);
+      ASSERT_EQ(near > 0 ? search.SearchCost(near) : AirwaySearch::unreachedCost, least);
+      routes += near > 0 ? 1 : 0;
+      const int end = search.ShortestPathToNode(1, 'V', goal);
+      ASSERT_EQ(end > 0 ? search.SearchCost(end) : AirwaySearch::unreachedCost,
+                cost[static_cast<std::size_t>(goal)]);
     }
   }
+  EXPECT_GT(routes, 2000);
 }
 
 TEST(ParseAltitude, ReadsLevelsAndFeet) {
