@@ -13,7 +13,10 @@ namespace {
 constexpr std::int16_t labelRange = 2000;
 constexpr double greatCircleStepNM = 60;
 constexpr float labelPadding = 14;  // units around a label's text
-constexpr std::int16_t farthestFitRow = 19;
+constexpr double fitMargin = 1.25;
+constexpr std::int16_t nearestFitRow = 4;
+constexpr std::int16_t farthestFitRow = 20;
+constexpr std::int16_t farthestPolarRow = 19;
 
 void DrawPlanLine(const MapPaint& paint, const FlightPlan& plan) {
   std::vector<SurfaceLine> lines;
@@ -110,6 +113,35 @@ void DrawPlanWaypoints(const MapPaint& paint, const FlightPlan& plan) {
   }
 }
 
+double PlainScale(std::int16_t row) {
+  return ZoomTable[static_cast<std::size_t>(row)].scale;
+}
+
+// Longitudes run on past 180 where the plan crosses the date line.
+struct PlanExtent {
+  double south, north, west, east;
+};
+
+PlanExtent ExtentOf(const FlightPlan& plan) {
+  const PlanWaypoint& first = plan.rows.front();
+  PlanExtent extent{first.Lat, first.Lat, first.Lon, first.Lon};
+  double lon = first.Lon;
+  const auto include = [&](Position place) {
+    lon += std::remainder(static_cast<double>(place.lon) - lon, 360.0);  // the short way from the one before
+    extent.south = std::min<double>(extent.south, place.lat);
+    extent.north = std::max<double>(extent.north, place.lat);
+    extent.west = std::min(extent.west, lon);
+    extent.east = std::max(extent.east, lon);
+  };
+  for (std::size_t row = 1; row < plan.rows.size(); ++row) {
+    const PlanWaypoint& from = plan.rows[row - 1];
+    const PlanWaypoint& to = plan.rows[row];
+    for (const Position place : GreatCirclePlaces({from.Lat, from.Lon}, {to.Lat, to.Lon}, greatCircleStepNM))
+      include(place);
+  }
+  return extent;
+}
+
 }  // namespace
 
 std::vector<MapLayer> PlanLayers(const FlightPlan& plan) {
@@ -120,28 +152,21 @@ std::vector<MapLayer> PlanLayers(const FlightPlan& plan) {
        [&plan](const MapPaint& paint) { DrawPlanWaypoints(paint, plan); }}};
 }
 
-bool ShowWholePlan(const FlightPlan& plan, MapView& view) {
-  if (plan.rows.empty()) return false;
-  double south = plan.rows.front().Lat;
-  double north = south;
-  double west = plan.rows.front().Lon;
-  double east = west;
-  double lon = west;
-  for (const PlanWaypoint& row : plan.rows) {
-    lon += std::remainder(static_cast<double>(row.Lon) - lon, 360.0);  // the short way from the row before
-    south = std::min<double>(south, row.Lat);
-    north = std::max<double>(north, row.Lat);
-    west = std::min(west, lon);
-    east = std::max(east, lon);
-  }
-  view.MapCenterLat = static_cast<float>((south + north) / 2);
-  view.MapCenterLon = static_cast<float>(std::remainder((west + east) / 2, 360.0));
+void ShowWholePlan(const FlightPlan& plan, MapView& view, const VisiblePage& page) {
+  if (plan.rows.empty()) return;
+  const PlanExtent extent = ExtentOf(plan);
+  view.MapCenterLat = static_cast<float>((extent.south + extent.north) / 2);
+  view.MapCenterLon = static_cast<float>(std::remainder((extent.west + extent.east) / 2, 360.0));
   const double cosine = std::cos(DegToRad(view.MapCenterLat));
-  const double wide = (east - west) * cosine * mapScaleHeight / mapScaleWidth;
-  const double heightNM = 60 * 1.25 * std::max(wide, north - south);
-  std::int16_t row = 0;
-  while (row < farthestFitRow && ZoomTable[static_cast<std::size_t>(row)].rangeNM < heightNM)
+  // Degrees that the page must be able to show, and its units for each of them.
+  const double unitsHigh = page.height / (fitMargin * (extent.north - extent.south));
+  const double unitsWide = page.width / (fitMargin * (extent.east - extent.west) * cosine);
+  const double largestScale = std::min(unitsHigh, unitsWide);
+  std::int16_t row = nearestFitRow;
+  while (row < farthestFitRow && PlainScale(row) * view.MapSizeFactor > largestScale)
     ++row;
-  view.SetZoom(row, true);
-  return true;
+  // The farthest row is allowed or not by what the map would show.
+  view.SetZoom(std::min(row, farthestPolarRow), true);
+  view.UpdateVisibilityBox();
+  if (row > farthestPolarRow) view.SetZoom(row, true);
 }

@@ -10,6 +10,13 @@
 // The layers show plan as it is whenever they draw; it must outlive them.
 std::vector<MapLayer> PlanLayers(const FlightPlan& plan);
 
-// A centre and row of the zoom table that show the whole plan, for the moment
-// when it has just been made. The row is 19 at most; false without rows.
-bool ShowWholePlan(const FlightPlan& plan, MapView& view);
+// What can be seen of the page, in units.
+struct VisiblePage {
+  float width = mapScaleWidth;
+  float height = mapScaleHeight;
+};
+
+// Brings the view to a centre and a row of the zoom table (20 at most) that
+// show the whole plan, for the moment when it has just been made. Without rows
+// the view stays.
+void ShowWholePlan(const FlightPlan& plan, MapView& view, const VisiblePage& page = {});

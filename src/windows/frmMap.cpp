@@ -12,6 +12,7 @@
 #include "base/numbers.h"
 #include "flightplan/plan_file.h"
 #include "flightplan/plan_layers.h"
+#include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
 #include "navdata/geodesy.h"
 #include "settings/settings_file.h"
@@ -158,8 +159,11 @@ void frmMap::SelectAirports() {
 
 void frmMap::StartPlan(int departureRow, int destinationRow) {
   SetDepartureAndDestination(session.plan, Context(), departureRow, destinationRow);
-  ShowWholePlan(session.plan, session.view);
   PlanChanged();
+  // The panel takes its place beside the map before the plan is fitted into it.
+  centralWidget()->layout()->activate();
+  const SurfacePoint visible = Map->VisibleUnits();
+  ShowWholePlan(session.plan, session.view, {visible.x, visible.y});
   CentreMoved();
 }
 
@@ -171,6 +175,14 @@ void frmMap::GenerateRoute(AirwayNetwork network) {
     }
     PlanChanged();
     DrawMap();
+  });
+}
+
+void frmMap::TakeAircraft(const AircraftRec& aircraft) {
+  Trapped("frmMap mnuAircraft (", [&] {
+    SelectAircraft(aircraft, session.aircraft, session.plan);
+    session.settings.AIRCRAFT = aircraft.Number;
+    PlanChanged();
   });
 }
 

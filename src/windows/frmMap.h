@@ -41,6 +41,7 @@ class frmMap : public QMainWindow {
 
  private:
   void BuildMenus();
+  void BuildAircraftMenu();
   void BuildToolBar();
   void BuildStatusStrip(class QVBoxLayout* layout);
   void BuildKeys();
@@ -62,6 +63,7 @@ class frmMap : public QMainWindow {
   void ShowPointer(float x, float y);
   void ShowClock();
   void GenerateRoute(AirwayNetwork network);
+  void TakeAircraft(const AircraftRec& aircraft);
   void NewPlan();
   void SavePlan();
   void PlanChanged();

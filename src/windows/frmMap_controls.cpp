@@ -1,4 +1,5 @@
 // The controls of the main window: menus, ribbons, keys and status panels.
+#include <QActionGroup>
 #include <QApplication>
 #include <QDateTime>
 #include <QFrame>
@@ -57,6 +58,7 @@ void frmMap::BuildMenus() {
   quit->setShortcut(QKeySequence::Quit);
   plan->addAction(quit);
 
+  BuildAircraftMenu();
   QMenu* view = menuBar()->addMenu(tr("&View"));
   view->addActions({AddSwitch("mnuCoastlines", tr("&Coastlines"), &MapSwitches::mnuCoastlines),
                     AddSwitch("mnuAirport", tr("&Airports"), &MapSwitches::mnuAirport),
@@ -84,6 +86,21 @@ void frmMap::BuildMenus() {
   }
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   help->addAction(AddCommand("mnuAbout", tr("&About Velmora"), [this] { ShowAbout(); }));
+}
+
+void frmMap::BuildAircraftMenu() {
+  QMenu* menu = menuBar()->addMenu(tr("Air&craft"));
+  menu->setObjectName("mnuAircraft");
+  auto* group = new QActionGroup(menu);
+  for (const AircraftRec& aircraft : session.aircraftList) {
+    QAction* action = menu->addAction(QString::fromStdString(aircraft.Name));
+    action->setObjectName(QString("mnuAircraft(%1)").arg(aircraft.Number));
+    action->setCheckable(true);
+    action->setChecked(aircraft.Number == session.aircraft.Number);
+    group->addAction(action);
+    connect(action, &QAction::triggered, this, [this, &aircraft] { TakeAircraft(aircraft); });
+  }
+  menu->setEnabled(!session.aircraftList.empty());
 }
 
 void frmMap::AddButton(QToolBar* bar, QAction* action, const QString& name, const QString& text,

@@ -27,6 +27,11 @@ void MapCanvas::MarkStale() {
   update();
 }
 
+SurfacePoint MapCanvas::VisibleUnits() const {
+  const double scale = Placement().PixelsPerUnit();
+  return {static_cast<float>(width() / scale), static_cast<float>(height() / scale)};
+}
+
 void MapCanvas::DrawAnew() {
   stale = false;
   const double density = devicePixelRatioF();

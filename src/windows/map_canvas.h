@@ -23,6 +23,8 @@ class MapCanvas : public QWidget {
 
   // The picture is drawn anew before it is next shown.
   void MarkStale();
+  // What can be seen of the page, in map units.
+  SurfacePoint VisibleUnits() const;
   const QImage& Picture() const { return VMap0; }
 
  Q_SIGNALS:

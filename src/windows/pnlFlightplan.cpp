@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int panelWidth = 460;
+constexpr int panelWidth = 500;
 
 QString Utf8(std::string_view codePageText) {
   return QString::fromStdString(CodePageToUtf8(codePageText));
@@ -127,16 +127,19 @@ pnlFlightplan::pnlFlightplan(FlightPlan& plan, QWidget* parent) : QFrame(parent)
   auto* header = grdWPTable->horizontalHeader();
   header->setHighlightSections(false);
   header->setSectionResizeMode(LegTableModel::name, QHeaderView::Stretch);
-  const std::pair<int, int> widths[] = {{LegTableModel::code, 78},
-                                        {LegTableModel::airway, 76},
-                                        {LegTableModel::course, 96},
-                                        {LegTableModel::distance, 82}};
+  const std::pair<int, int> widths[] = {{LegTableModel::code, 74},
+                                        {LegTableModel::airway, 74},
+                                        {LegTableModel::course, 104},
+                                        {LegTableModel::distance, 84}};
   for (const auto& [column, width] : widths)
     grdWPTable->setColumnWidth(column, width);
   grdWPTable->installEventFilter(this);
   connect(grdWPTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this] { TakeSelection(); });
-  layout->addWidget(grdWPTable, 1);
+  auto* tableRow = new QHBoxLayout;
+  tableRow->setContentsMargins(9, 0, 9, 0);
+  tableRow->addWidget(grdWPTable);
+  layout->addLayout(tableRow, 1);
   lblHint = new QLabel(this);
   lblHint->setObjectName("lblHint");
   lblHint->setProperty("quiet", true);

@@ -2,29 +2,55 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPainter>
 
 namespace {
 
-QMessageBox::Icon IconOf(MessageIcon icon) {
+constexpr int iconSize = 40;
+
+struct IconLook {
+  QRgb color;
+  const char* sign;
+};
+
+IconLook LookOf(MessageIcon icon) {
   switch (icon) {
-    case MessageIcon::information:
-      return QMessageBox::Information;
-    case MessageIcon::question:
-      return QMessageBox::Question;
     case MessageIcon::exclamation:
-      return QMessageBox::Warning;
+      return {qRgb(214, 158, 46), "!"};
     case MessageIcon::critical:
-      return QMessageBox::Critical;
-    case MessageIcon::none:
-      break;
+      return {qRgb(204, 82, 70), "!"};
+    case MessageIcon::question:
+      return {qRgb(64, 132, 214), "?"};
+    default:
+      return {qRgb(64, 132, 214), "i"};
   }
-  return QMessageBox::NoIcon;
+}
+
+// A plain disc with its sign, in the program's own colours.
+QPixmap PictureOf(MessageIcon icon, double density) {
+  QPixmap picture(QSize(iconSize, iconSize) * density);
+  picture.setDevicePixelRatio(density);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const IconLook look = LookOf(icon);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor::fromRgb(look.color));
+  painter.drawEllipse(QRectF(2, 2, iconSize - 4, iconSize - 4));
+  QFont font = QApplication::font();
+  font.setPixelSize(iconSize * 11 / 20);
+  font.setWeight(QFont::Bold);
+  painter.setFont(font);
+  painter.setPen(Qt::white);
+  painter.drawText(QRect(0, 0, iconSize, iconSize), Qt::AlignCenter, look.sign);
+  return picture;
 }
 
 // Runs a box and gives the button that closed it.
 int RunBox(QWidget* parent, std::string_view text, MessageIcon icon, QMessageBox::StandardButtons buttons) {
-  QMessageBox box(IconOf(icon), QString::fromUtf8(messageTitle.data(), messageTitle.size()),
+  QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(messageTitle.data(), messageTitle.size()),
                   QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())), buttons, parent);
+  if (icon != MessageIcon::none) box.setIconPixmap(PictureOf(icon, box.devicePixelRatioF()));
   box.setTextFormat(Qt::PlainText);
   box.setObjectName("messageBox");
   return box.exec();

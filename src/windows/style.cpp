@@ -51,6 +51,7 @@ QToolButton:pressed { background: #18202c; }
 QToolButton:checked { background: #1f3a5e; border-color: #2d5688; color: #e8f1fc; }
 QToolButton:focus { border-color: #4084d6; }
 QToolButton:disabled { color: #525c6b; }
+QMessageBox, QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { background: #212b3a; border: 1px solid #334155; border-radius: 5px; padding: 7px 18px; min-width: 64px; }
 QPushButton:hover { background: #293648; }
 QPushButton:focus { border-color: #4084d6; }
@@ -67,7 +68,7 @@ QLabel[quiet="true"] { color: #8c98aa; }
 QLabel[fault="true"] { color: #f08a7c; }
 QLabel[figure="true"] { font-size: 15px; color: #dfe5ee; }
 QTableView { border: none; background: #0f141c; alternate-background-color: #121822; gridline-color: #1d2531; outline: none; }
-QTableView::item { padding: 0 8px; border: none; }
+QTableView::item { padding: 0 6px; border: none; }
 QTableView::item:selected { background: #1f3a5e; color: #ffffff; }
 QHeaderView::section { background: #111620; color: #8c98aa; border: none; border-bottom: 1px solid #232c3a; padding: 6px 8px; }
 QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
