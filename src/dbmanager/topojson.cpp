@@ -55,9 +55,9 @@ class TopologyReader {
   OutlineObject ReadObject(const Json& geometry) {
     OutlineObject object;
     arcsOfObject.clear();
-    if (geometry.contains("id")) object.id = geometry.at("id").get<std::string>();
-    if (geometry.contains("properties")) object.name = geometry.at("properties").value("name", "");
-    const std::string type = geometry.value("type", "");
+    object.id = TextOf(geometry, "id");
+    if (geometry.contains("properties")) object.name = TextOf(geometry.at("properties"), "name");
+    const std::string type = TextOf(geometry, "type");
     if (type == "Polygon") {
       object.polygons.push_back(ReadPolygon(geometry.at("arcs")));
     } else if (type == "MultiPolygon") {
@@ -65,6 +65,12 @@ class TopologyReader {
         object.polygons.push_back(ReadPolygon(polygon));
     }
     return object;
+  }
+
+  // Empty if there is no such text: a geometry may have a null type.
+  static std::string TextOf(const Json& object, const char* key) {
+    const auto found = object.find(key);
+    return found != object.end() && found->is_string() ? found->get<std::string>() : "";
   }
 
   OutlinePolygon ReadPolygon(const Json& rings) {
