@@ -49,6 +49,7 @@ void BlendPixel(const PixelGrid& grid, int x, int y, QRgb color, float coverage)
 bool CutLine(QPointF& from, QPointF& to, double width, double height, double margin) {
   const double dx = to.x() - from.x();
   const double dy = to.y() - from.y();
+  if (!std::isfinite(dx) || !std::isfinite(dy)) return false;
   double first = 0;
   double last = 1;
   const bool inside = CutAtEdge(-dx, from.x() + margin, first, last) &&
