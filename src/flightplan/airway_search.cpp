@@ -70,19 +70,26 @@ int AirwaySearch::ShortestPathToPosition(int startNode, char level, float destLa
   const AirwayGraph& network = UseNetwork(level);
   const Circle circle(database, network, destLat, destLon, radius, toGo);
 
+  // Leans towards the goal by half again of the way to go, and never comes
+  // back to a settled vertex: quick, and not always shortest.
   struct Hurry {
     const Circle& circle;
-    bool IsGoal(int vertex) const { return circle.Contains(vertex); }
-    float Key(int vertex, float cost) const { return cost + circle.ToGo(vertex); }
-    bool Keep(int, float) const { return true; }
+    std::vector<char>& settled;
+    bool Settle(int vertex) const {
+      settled[static_cast<std::size_t>(vertex)] = 1;
+      return circle.Contains(vertex);
+    }
+    float Key(int vertex, float cost) const { return cost + 1.5f * circle.ToGo(vertex); }
+    bool Keep(int vertex, float) const { return settled[static_cast<std::size_t>(vertex)] == 0; }
   };
-  const int someEnd = Search(startNode, Hurry{circle});
+  settled.assign(static_cast<std::size_t>(network.VertexCount()), 0);
+  const int someEnd = Search(startNode, Hurry{circle, settled});
   if (someEnd < 0) return someEnd;
 
   struct Within {
     const Circle& circle;
     float mostCost;
-    bool IsGoal(int vertex) const { return circle.Contains(vertex); }
+    bool Settle(int vertex) const { return circle.Contains(vertex); }
     float Key(int, float cost) const { return cost; }
     bool Keep(int vertex, float cost) const { return cost + circle.ToGo(vertex) <= mostCost; }
   };
@@ -93,7 +100,7 @@ int AirwaySearch::ShortestPathToPosition(int startNode, char level, float destLa
 int AirwaySearch::ShortestPathToNode(int startNode, char level, int endNode) {
   struct Everywhere {
     int end;
-    bool IsGoal(int vertex) const { return vertex == end; }
+    bool Settle(int vertex) const { return vertex == end; }
     float Key(int, float cost) const { return cost; }
     bool Keep(int, float) const { return true; }
   };
@@ -121,7 +128,7 @@ int AirwaySearch::Search(int startNode, const Guide& guide) {
     const float cost = states[static_cast<std::size_t>(entry.vertex)].cost;
     // An old entry of a vertex that a shorter way has reached since.
     if (entry.key != guide.Key(entry.vertex, cost)) continue;
-    if (guide.IsGoal(entry.vertex)) return graph->NodeOf(entry.vertex);
+    if (guide.Settle(entry.vertex)) return graph->NodeOf(entry.vertex);
     RelaxArcs(entry.vertex, cost, guide);
   }
   return -startNode;

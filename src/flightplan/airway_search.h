@@ -5,8 +5,8 @@
 // One object serves any number of searches and keeps its memory between them.
 //
 // A search towards a position runs twice. The first run hurries towards the
-// goal (A*: P. Hart, N. Nilsson, B. Raphael, 1968) and gives a cost that the
-// way need not exceed; the second is Dijkstra's, and passes over every vertex
+// goal (A*, P. Hart, N. Nilsson, B. Raphael, 1968, with weighted distances) and
+// gives a cost that the way need not exceed; the second is Dijkstra's, and passes over every vertex
 // from which the goal cannot be reached at that cost. Those are on no shortest
 // way, so the result is that of the whole search.
 #pragma once
@@ -75,8 +75,9 @@ class AirwaySearch {
 
   class Circle;
 
-  // Guide says where the search ends (IsGoal), in which order it settles (Key)
-  // and which ways it need not follow (Keep).
+  // Guide takes each vertex as it is settled and says whether the search ends
+  // there (Settle), in which order they come (Key) and which ways it need not
+  // follow (Keep).
   template <class Guide>
   int Search(int startNode, const Guide& guide);
   template <class Guide>
@@ -92,4 +93,5 @@ class AirwaySearch {
   std::vector<VertexState> states;
   std::vector<HeapEntry> heap;  // entry 0 is the top
   std::vector<float> toGo;      // by vertex, NM, -1: not yet known
+  std::vector<char> settled;    // by vertex, of the first run
 };
