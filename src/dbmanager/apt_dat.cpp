@@ -1,5 +1,6 @@
 #include "dbmanager/apt_dat.h"
 
+#include <algorithm>
 #include <cmath>
 #include <unordered_map>
 #include <utility>
@@ -186,12 +187,14 @@ class AptReader {
     return nullptr;
   }
 
+  // Empty if the identifier does not begin with a number from 1 to 36.
   static std::string OppositeEnd(const std::string& id) {
-    const int number = ParseWhole(id.substr(0, 2)).value_or(0);
+    const std::size_t digits = std::min(id.find_first_not_of("0123456789"), id.size());
+    const int number = ParseWhole(std::string_view(id).substr(0, digits)).value_or(0);
     if (number < 1 || number > 36) return "";
     const int opposite = number > 18 ? number - 18 : number + 18;
     std::string text = opposite < 10 ? "0" + std::to_string(opposite) : std::to_string(opposite);
-    for (const char side : id.substr(2))
+    for (const char side : std::string_view(id).substr(digits))
       text += side == 'L' ? 'R' : side == 'R' ? 'L' : side;
     return text;
   }

@@ -86,6 +86,19 @@ TEST(AptDat, OldRunwayRowsBecomeRunwaysAndPavement) {
   }
 }
 
+TEST(AptDat, OppositeEndsOfOldRunways) {
+  const std::pair<const char*, const char*> cases[] = {{"09L", "27R"}, {"27Cx", "09C"}, {"9", "27"},
+                                                       {"36x", "18"},  {"18R", "36L"},  {"N", ""},
+                                                       {"00", ""},     {"99", ""}};
+  for (const auto& [id, opposite] : cases) {
+    Rejects rejects;
+    const SourceAirport airport =
+        ReadOne("10 50.0 8.0 " + std::string(id) + " 90.0 6076 0.0 0.0 150 161161 1\n", rejects);
+    ASSERT_EQ(airport.runways.size(), 1u) << id;
+    EXPECT_EQ(airport.runways[0].ends[1].id, opposite) << id;
+  }
+}
+
 TEST(AptDat, PavementHasHolesAndCurves) {
   Rejects rejects;
   const SourceAirport airport = ReadOne(
