@@ -70,7 +70,7 @@ int AirwaySearch::ShortestPathToPosition(int startNode, char level, float destLa
   const AirwayGraph& network = UseNetwork(level);
   const Circle circle(database, network, destLat, destLon, radius, toGo);
 
-  // Leans towards the goal by half again of the way to go, and never comes
+  // Leans towards the goal by a fifth more than the way to go, and never comes
   // back to a settled vertex: quick, and not always shortest.
   struct Hurry {
     const Circle& circle;
@@ -79,7 +79,7 @@ int AirwaySearch::ShortestPathToPosition(int startNode, char level, float destLa
       settled[static_cast<std::size_t>(vertex)] = 1;
       return circle.Contains(vertex);
     }
-    float Key(int vertex, float cost) const { return cost + 1.5f * circle.ToGo(vertex); }
+    float Key(int vertex, float cost) const { return cost + 1.2f * circle.ToGo(vertex); }
     bool Keep(int vertex, float) const { return settled[static_cast<std::size_t>(vertex)] == 0; }
   };
   settled.assign(static_cast<std::size_t>(network.VertexCount()), 0);
