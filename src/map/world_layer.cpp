@@ -118,7 +118,7 @@ void DrawWorld(const MapPaint& paint) {
     if (shape.bytType != inlandWater) fill(shape, paint.colors.LAND);
   for (const WorldShapeRec& shape : database.worldPolygons.shapes)
     if (shape.bytType == inlandWater) fill(shape, paint.colors.MAP);
-  const Pen border{paint.colors.COAST, 1.0F, 0.75F};
+  const Pen border{paint.colors.COAST, 1.2F, 0.9F};
   for (const WorldShapeRec& shape : database.worldLines.shapes) {
     ForEachAppearance(paint, database.worldLines, shape, page,
                       [&](auto places, auto points) { DrawOutline(surface, places, points, page, border); });

@@ -116,7 +116,6 @@ bool frmIntro::RunDatabaseManager(QString& reason) {
     reason = tr("velmora-dbmanager could not be started: %1").arg(manager.errorString());
     return false;
   }
-  ShowProgress("...building the database");
   QString lastLine;
   while (manager.state() != QProcess::NotRunning || manager.bytesAvailable() > 0) {
     manager.waitForReadyRead(50);
@@ -125,7 +124,7 @@ bool frmIntro::RunDatabaseManager(QString& reason) {
       if (!line.isEmpty()) lastLine = line;
     }
     if (manager.state() == QProcess::NotRunning && !manager.canReadLine()) manager.readAll();
-    if (!lastLine.isEmpty()) ShowProgress(lastLine.left(90).toStdString());
+    ShowProgress(lastLine.isEmpty() ? "...building the database" : lastLine.left(90).toStdString());
   }
   reason = lastLine;
   return manager.exitStatus() == QProcess::NormalExit && manager.exitCode() == 0;
