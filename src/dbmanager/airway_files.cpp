@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <map>
 #include <numeric>
 #include <set>
 #include <tuple>
@@ -65,10 +66,10 @@ class AirwayFilesMaker {
 
  private:
   std::size_t PointOf(const AirwayEnd& end) {
-    if (const auto known = pointPlaces.Find(end.ident, end.position)) return *known;
-    pointPlaces.Add(end.ident, end.position, points.size());
-    points.push_back({end, {}, {}, 0});
-    return points.size() - 1;
+    const auto [known, fresh] =
+        pointPlaces.try_emplace({end.ident, end.position.lat, end.position.lon}, points.size());
+    if (fresh) points.push_back({end, {}, {}, 0});
+    return known->second;
   }
 
   void AddSegment(const SourceAirway& source) {
@@ -197,7 +198,8 @@ class AirwayFilesMaker {
   std::vector<Point> points;
   std::vector<Segment> segments;
   std::vector<std::size_t> order;  // points in the order of their rows
-  IdentPlaces pointPlaces;
+  // Ends of segments are one point only where the source gives them one position.
+  std::map<std::tuple<std::string, double, double>, std::size_t> pointPlaces;
   IdentPlaces navaidPlaces;
   std::vector<const std::string*> navaidNames;
   std::set<std::tuple<std::size_t, std::size_t, bool, std::string>> linksSeen;

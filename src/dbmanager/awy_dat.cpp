@@ -26,7 +26,7 @@ const char* ReadLimitsAndNames(const LineFields& fields, std::size_t first, Sour
   segment.high = *level == 2;
   segment.base = static_cast<int>(*base);
   segment.top = static_cast<int>(*top);
-  segment.names = SplitNames(fields[first + 3]);
+  segment.names = SplitNames(fields.From(first + 3));  // a name may hold blanks
   return segment.names.empty() ? "no airway name" : nullptr;
 }
 

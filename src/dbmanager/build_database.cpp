@@ -10,12 +10,14 @@
 #include "dbmanager/airspace_file.h"
 #include "dbmanager/airway_ends.h"
 #include "dbmanager/airway_files.h"
+#include "dbmanager/first_aircraft.h"
 #include "dbmanager/ground_files.h"
 #include "dbmanager/navaid_files.h"
 #include "dbmanager/small_files.h"
 #include "dbmanager/source_error.h"
 #include "dbmanager/staged_database.h"
 #include "dbmanager/world_files.h"
+#include "flightplan/aircraft_file.h"
 #include "navdata/magnetic_variation.h"
 
 namespace fs = std::filesystem;
@@ -256,7 +258,7 @@ class Builder {
     staged.Write("database/AIRAC.INI", MakeAiracText(report.cycle));
     staged.Write("VLM_intro.bmp", ReadWholeSource(files.introPicture));
     if (!fs::exists(ResolveBelow(options.home, "user/aircraft.vlm"))) {
-      staged.Write("user/aircraft.vlm", MakeAircraftText());
+      staged.Write("user/aircraft.vlm", AircraftText(FirstAircraft()));
     }
     report.notes.push_back("No procedures are read yet: sid.vlm and star.vlm are not written.");
   }

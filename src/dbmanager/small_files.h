@@ -1,5 +1,5 @@
-// The small files of a database: the magnetic variation grid, the cycle, the
-// weather stations and a first set of aircraft.
+// The small files of a database: the magnetic variation grid, the cycle and
+// the weather stations.
 #pragma once
 
 #include <cstddef>
@@ -27,7 +27,3 @@ struct WeatherStations {
 
 // lines: one code to a line, "#" begins a comment.
 WeatherStations MakeWeatherStations(LineReader& lines, std::span<const AirportPlace> places);
-
-// aircraft.vlm: a dozen types with rounded figures of their class, number 12
-// among them.
-std::string MakeAircraftText();

