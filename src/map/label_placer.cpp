@@ -43,7 +43,7 @@ bool LabelPlacer::Claim(float x, float y, float width, float height) {
   if (!Free(cells)) return false;
   for (int row = cells.top; row <= cells.bottom; ++row) {
     for (int column = cells.left; column <= cells.right; ++column)
-      taken[static_cast<std::size_t>(row * columns + column)] = true;
+      taken[CellNumber(row, column)] = true;
   }
   return true;
 }
@@ -51,7 +51,7 @@ bool LabelPlacer::Claim(float x, float y, float width, float height) {
 bool LabelPlacer::Free(const Cells& cells) const {
   for (int row = cells.top; row <= cells.bottom; ++row) {
     for (int column = cells.left; column <= cells.right; ++column)
-      if (taken[static_cast<std::size_t>(row * columns + column)]) return false;
+      if (taken[CellNumber(row, column)]) return false;
   }
   return true;
 }

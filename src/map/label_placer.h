@@ -29,6 +29,10 @@ class LabelPlacer {
   };
   bool Claim(float x, float y, float width, float height);
   bool Free(const Cells& cells) const;
+  std::size_t CellNumber(int row, int column) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) +
+           static_cast<std::size_t>(column);
+  }
 
   DrawSurface& surface;
   int columns;

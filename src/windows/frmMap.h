@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QAction>
+#include <QActionGroup>
 #include <QLabel>
 #include <QMainWindow>
 #include <QTimer>
@@ -82,5 +83,6 @@ class frmMap : public QMainWindow {
   pnlFlightplan* panel;
   std::map<QString, QAction*> actions;  // by menu name
   std::array<QLabel*, 6> lblMapStatus{};
+  QActionGroup aircraftGroup{this};
   QTimer tmrClock;
 };

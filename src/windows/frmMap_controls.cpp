@@ -1,5 +1,4 @@
 // The controls of the main window: menus, ribbons, keys and status panels.
-#include <QActionGroup>
 #include <QApplication>
 #include <QDateTime>
 #include <QFrame>
@@ -91,13 +90,12 @@ void frmMap::BuildMenus() {
 void frmMap::BuildAircraftMenu() {
   QMenu* menu = menuBar()->addMenu(tr("Air&craft"));
   menu->setObjectName("mnuAircraft");
-  auto* group = new QActionGroup(menu);
   for (const AircraftRec& aircraft : session.aircraftList) {
     QAction* action = menu->addAction(QString::fromStdString(aircraft.Name));
     action->setObjectName(QString("mnuAircraft(%1)").arg(aircraft.Number));
     action->setCheckable(true);
     action->setChecked(aircraft.Number == session.aircraft.Number);
-    group->addAction(action);
+    aircraftGroup.addAction(action);
     connect(action, &QAction::triggered, this, [this, &aircraft] { TakeAircraft(aircraft); });
   }
   menu->setEnabled(!session.aircraftList.empty());
