@@ -22,7 +22,11 @@ constexpr int smallestSide = 16;  // pixels
 constexpr int largestSide = 16384;
 
 int WrongUsage(const std::string& reason) {
-  std::fprintf(stderr, "velmora-cli: %s\n", reason.c_str());
+  std::fprintf(
+      stderr,
+      "velmora-cli: %s\nUsage: velmora-cli draw [--center LAT,LON] [--range NM | --zoom INDEX] [--size WxH] "
+      "[--layers A,B,C] --out FILE.png\n",
+      reason.c_str());
   return exitWrongUsage;
 }
 
@@ -165,7 +169,7 @@ int RunDraw(const CliOptions& options, const DrawRequest& request) {
   }
   const std::chrono::duration<double, std::milli> drawTime = std::chrono::steady_clock::now() - start;
   std::string reason;
-  if (!WritePng(image, request.out, reason)) return Fail(request.out + ": " + reason);
+  if (!WritePng(image, request.out, reason)) return Fail(reason);
   PrintResult(options, request, view, drawTime.count());
   return exitDone;
 }
