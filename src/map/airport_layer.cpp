@@ -32,7 +32,7 @@ struct SizeLook {
   float pointOpacity;
 };
 constexpr std::array<SizeLook, 3> looks = {
-    {{26, 7, 0.45F, 1.0F, 0.28F}, {32, 13, 0.75F, 1.2F, 0.45F}, {42, 21, 1.0F, 2.0F, 0.9F}}};
+    {{26, 7, 0.45F, 1.0F, 0.4F}, {32, 13, 0.75F, 1.2F, 0.55F}, {42, 21, 1.0F, 2.0F, 0.9F}}};
 
 struct ShownAirport {
   const AirportRec* airport;

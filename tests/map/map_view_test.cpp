@@ -39,14 +39,16 @@ TEST(Projection, PutsLongitudesOnThePage) {
 }
 
 TEST(Projection, TakesTheDifferenceOfLongitudesInSingle) {
-  // 16.1 - 16.05 is 0.05000114 in 32 bits, 0.04999924 in 64 bits from the same inputs is not
-  // reached: at 420000 units a degree the two differ by whole units.
+  // In 64 bits the difference is 100.399999..., in 32 bits one of the floats beside it:
+  // at 420000 units a degree that is another unit.
   const float center = 100.1F;
-  const float lon = 99.95F;
-  const float d = center - lon;
-  const auto expected =
-      static_cast<std::int32_t>(std::floor(mapScaleWidth / 2.0 - static_cast<double>(d) * 420000));
-  EXPECT_EQ(Projection(0, center, 420000).LonToX(lon), expected);
+  const float lon = -0.3F;
+  const auto unit = [](double d) {
+    return static_cast<std::int32_t>(std::floor(mapScaleWidth / 2.0 - d * 420000));
+  };
+  const float single = center - lon;
+  ASSERT_NE(unit(single), unit(static_cast<double>(center) - lon));
+  EXPECT_EQ(Projection(0, center, 420000).LonToX(lon), unit(single));
 }
 
 TEST(Projection, PutsLatitudesOnThePage) {
