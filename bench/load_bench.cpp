@@ -19,12 +19,13 @@ using Clock = std::chrono::steady_clock;
 std::vector<std::filesystem::path> DatabaseFiles() {
   std::vector<std::filesystem::path> files;
   const auto add = [&](const std::string& folder, std::initializer_list<const char*> names) {
-    for (const char* name : names) files.push_back(BenchHome().Resolve(folder + name));
+    for (const char* name : names)
+      files.push_back(BenchHome().Resolve(folder + name));
   };
-  add("\\database\\FS09\\", {"region.vlm", "country.vlm", "state.vlm", "city.vlm", "airport.vlm", "ils.vlm", "taxi.vlm",
-                             "poly.vlm", "marker.vlm"});
-  add("\\database\\", {"msa.vlm", "dijinter.vlm", "vicways.vlm", "jetways.vlm", "fixes.vlm", "vor.vlm", "ndb.vlm",
-                       "airspace.vlm"});
+  add("\\database\\FS09\\", {"region.vlm", "country.vlm", "state.vlm", "city.vlm", "airport.vlm", "ils.vlm",
+                             "taxi.vlm", "poly.vlm", "marker.vlm"});
+  add("\\database\\", {"msa.vlm", "dijinter.vlm", "vicways.vlm", "jetways.vlm", "fixes.vlm", "vor.vlm",
+                       "ndb.vlm", "airspace.vlm"});
   add("\\map\\", {"worldpolygon.bin", "worldline.bin"});
   add("\\", {"magvar09.qtr"});
   return files;
@@ -40,13 +41,16 @@ Sum ReadAndSum(const std::vector<std::filesystem::path>& files) {
   for (const auto& path : files) {
     const auto file = ReadWholeFile(path);
     if (!file) continue;
-    for (const std::byte byte : file->Bytes()) sum.total += static_cast<std::uint8_t>(byte);
+    for (const std::byte byte : file->Bytes())
+      sum.total += static_cast<std::uint8_t>(byte);
     sum.bytes += file->Bytes().size();
   }
   return sum;
 }
 
-double Seconds(Clock::time_point from) { return std::chrono::duration<double>(Clock::now() - from).count(); }
+double Seconds(Clock::time_point from) {
+  return std::chrono::duration<double>(Clock::now() - from).count();
+}
 
 // ratio: load time / time to read and sum.
 void LoadWorldWithIndexes(benchmark::State& state) {

@@ -20,7 +20,8 @@ void WalkEverything(const NavDatabase& db) {
             db.Ils(airport).size();
   }
   if (rows > db.runways.size() + db.frequencies.size() + db.parkings.size() + db.ils.size()) std::abort();
-  for (const IntersectionRec& node : db.intersections) rows += db.LowAlt(node).size() + db.HighAlt(node).size();
+  for (const IntersectionRec& node : db.intersections)
+    rows += db.LowAlt(node).size() + db.HighAlt(node).size();
   for (const auto* shapes : {&db.worldPolygons, &db.worldLines}) {
     for (const WorldShapeRec& shape : shapes->shapes) {
       if (shape.firstPoint + shape.pointCount > shapes->points.size()) std::abort();

@@ -12,7 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   settings.IVAOVPW = DecodeIvaoPWord(settings.IVAOVPW);
   const std::string written = SettingsText(settings, text);
   const Settings again = ReadSettings(written).settings;
-  if (again.SCALE != settings.SCALE || again.FPSEL != settings.FPSEL || again.colors.LAND != settings.colors.LAND) {
+  if (again.SCALE != settings.SCALE || again.FPSEL != settings.FPSEL ||
+      again.colors.LAND != settings.colors.LAND) {
     std::abort();
   }
   return 0;

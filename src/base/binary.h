@@ -16,7 +16,8 @@
 
 #include "base/fixed_text.h"
 
-static_assert(std::endian::native == std::endian::little, "files are little-endian; swap here for other hosts");
+static_assert(std::endian::native == std::endian::little,
+              "files are little-endian; swap here for other hosts");
 
 // N bytes that are read over and written as zero.
 template <std::size_t N>

@@ -79,7 +79,8 @@ char ToCodePage(char32_t c) {
 std::string CodePageToUtf8(std::string_view text) {
   std::string out;
   out.reserve(text.size());
-  for (const char c : text) AppendUtf8(out, CodePoint(static_cast<unsigned char>(c)));
+  for (const char c : text)
+    AppendUtf8(out, CodePoint(static_cast<unsigned char>(c)));
   return out;
 }
 

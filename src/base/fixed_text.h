@@ -12,15 +12,21 @@
 // Cuts blanks (and the zero bytes that some writers pad with) at both ends.
 constexpr std::string_view Trimmed(std::string_view text) {
   const auto padding = [](char c) { return c == ' ' || c == '\0'; };
-  while (!text.empty() && padding(text.front())) text.remove_prefix(1);
-  while (!text.empty() && padding(text.back())) text.remove_suffix(1);
+  while (!text.empty() && padding(text.front()))
+    text.remove_prefix(1);
+  while (!text.empty() && padding(text.back()))
+    text.remove_suffix(1);
   return text;
 }
 
 // Upper case of the ASCII letters; other characters stay.
-constexpr char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+constexpr char AsciiUpper(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
-constexpr char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+constexpr char AsciiLower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 inline std::string AsciiUpper(std::string_view text) {
   std::string upper(text);

@@ -10,7 +10,9 @@
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 template <class Integer>
 Integer Hold(double value) {
@@ -74,7 +76,8 @@ double Val(std::string_view text) {
   std::string number;
   std::size_t i = 0;
   const auto skipBlanks = [&] {
-    while (i < text.size() && (text[i] == ' ' || text[i] == '\t' || text[i] == '\n' || text[i] == '\r')) ++i;
+    while (i < text.size() && (text[i] == ' ' || text[i] == '\t' || text[i] == '\n' || text[i] == '\r'))
+      ++i;
   };
   skipBlanks();
   if (i < text.size() && (text[i] == '-' || text[i] == '+')) {
@@ -99,7 +102,8 @@ double Val(std::string_view text) {
     std::string exponent = "e";
     if (j < text.size() && (text[j] == '-' || text[j] == '+')) exponent.push_back(text[j++]);
     const std::size_t firstDigit = exponent.size();
-    while (j < text.size() && IsDigit(text[j])) exponent.push_back(text[j++]);
+    while (j < text.size() && IsDigit(text[j]))
+      exponent.push_back(text[j++]);
     if (exponent.size() > firstDigit) number += exponent;
   }
   double value = 0.0;
@@ -107,13 +111,25 @@ double Val(std::string_view text) {
   return result.ec == std::errc() ? value : 0.0;
 }
 
-std::int32_t ValInt32(std::string_view text) { return RoundToEven(Val(text)); }
-std::int16_t ValInt16(std::string_view text) { return Hold<std::int16_t>(NearestEven(Val(text))); }
-std::uint8_t ValByte(std::string_view text) { return Hold<std::uint8_t>(NearestEven(Val(text))); }
+std::int32_t ValInt32(std::string_view text) {
+  return RoundToEven(Val(text));
+}
+std::int16_t ValInt16(std::string_view text) {
+  return Hold<std::int16_t>(NearestEven(Val(text)));
+}
+std::uint8_t ValByte(std::string_view text) {
+  return Hold<std::uint8_t>(NearestEven(Val(text)));
+}
 
-std::int32_t RoundToEven(double value) { return Hold<std::int32_t>(NearestEven(value)); }
-std::int32_t CutToInt(double value) { return Hold<std::int32_t>(std::trunc(value)); }
-std::int32_t FloorToInt(double value) { return Hold<std::int32_t>(std::floor(value)); }
+std::int32_t RoundToEven(double value) {
+  return Hold<std::int32_t>(NearestEven(value));
+}
+std::int32_t CutToInt(double value) {
+  return Hold<std::int32_t>(std::trunc(value));
+}
+std::int32_t FloorToInt(double value) {
+  return Hold<std::int32_t>(std::floor(value));
+}
 
 std::string FormatPicture(double value, std::string_view picture) {
   if (!std::isfinite(value)) return "---";
@@ -136,7 +152,8 @@ std::string FormatPicture(double value, std::string_view picture) {
   if (wholeDigits.size() < least) wholeDigits.insert(0, least - wholeDigits.size(), '0');
   const std::size_t lastZero = fraction.rfind('0');
   const std::size_t leastFraction = lastZero == std::string_view::npos ? 0 : lastZero + 1;
-  while (fractionDigits.size() > leastFraction && fractionDigits.back() == '0') fractionDigits.pop_back();
+  while (fractionDigits.size() > leastFraction && fractionDigits.back() == '0')
+    fractionDigits.pop_back();
 
   std::string out(picture.substr(0, first));
   if (value < 0.0 && !isZero) out.push_back('-');

@@ -28,19 +28,23 @@ Json ToJson(const AircraftRec& aircraft) {
 
 int RunAircraft(const CliOptions& options) {
   const AircraftFile file = ReadAircraftFile(options.home.Resolve(aircraftFileName));
-  for (const std::string& problem : file.problems) std::fprintf(stderr, "velmora-cli: aircraft.vlm: %s\n", problem.c_str());
+  for (const std::string& problem : file.problems)
+    std::fprintf(stderr, "velmora-cli: aircraft.vlm: %s\n", problem.c_str());
   if (options.json) {
     Json list = Json::array();
-    for (const AircraftRec& aircraft : file.aircraft) list.push_back(ToJson(aircraft));
+    for (const AircraftRec& aircraft : file.aircraft)
+      list.push_back(ToJson(aircraft));
     PrintJson(list);
   } else {
-    std::printf("%4s  %-32s %8s %7s %8s %9s %9s\n", "No", "Name", "Cruise", "Level", "Ceiling", "Range", "MaxFuel");
+    std::printf("%4s  %-32s %8s %7s %8s %9s %9s\n", "No", "Name", "Cruise", "Level", "Ceiling", "Range",
+                "MaxFuel");
     for (const AircraftRec& aircraft : file.aircraft) {
-      std::printf("%4d  %-32s %4d kts  FL %03d  FL %03d  %6d NM %6d kg\n", aircraft.Number, aircraft.Name.c_str(),
-                  aircraft.CruiseSpeed, aircraft.CruiseFlightLevel, aircraft.Ceiling, aircraft.MaxRange,
-                  aircraft.MaxFuel);
+      std::printf("%4d  %-32s %4d kts  FL %03d  FL %03d  %6d NM %6d kg\n", aircraft.Number,
+                  aircraft.Name.c_str(), aircraft.CruiseSpeed, aircraft.CruiseFlightLevel, aircraft.Ceiling,
+                  aircraft.MaxRange, aircraft.MaxFuel);
     }
   }
-  return file.aircraft.empty() ? Fail("there is no aircraft in " + options.home.Resolve(aircraftFileName).string())
-                               : exitDone;
+  return file.aircraft.empty()
+             ? Fail("there is no aircraft in " + options.home.Resolve(aircraftFileName).string())
+             : exitDone;
 }

@@ -19,7 +19,9 @@ bool CliMessages::AskYesNo(std::string_view text, MessageIcon icon) {
   return false;
 }
 
-Json CliMessages::ToJson() const { return Json(texts); }
+Json CliMessages::ToJson() const {
+  return Json(texts);
+}
 
 std::optional<WorldLoad> OpenWorld(const CliOptions& options) {
   WorldLoad world = LoadWorld(options.home, options.blnFSX);
@@ -46,8 +48,11 @@ Json JsonNumber(float value) {
   const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value);
   double shortest = 0;
   std::from_chars(digits.data(), written.ptr, shortest);
-  if (shortest == std::floor(shortest) && std::fabs(shortest) < 1e15) return static_cast<std::int64_t>(shortest);
+  if (shortest == std::floor(shortest) && std::fabs(shortest) < 1e15)
+    return static_cast<std::int64_t>(shortest);
   return shortest;
 }
 
-std::string Utf8(std::string_view codePageText) { return CodePageToUtf8(Trimmed(codePageText)); }
+std::string Utf8(std::string_view codePageText) {
+  return CodePageToUtf8(Trimmed(codePageText));
+}

@@ -8,8 +8,9 @@ int RunCourse(const CliOptions& options, const std::vector<double>& positions) {
   for (std::size_t i = 0; i < 4; ++i) {
     const double limit = i % 2 == 0 ? 90 : 180;
     if (!(std::fabs(positions[i]) <= limit)) {
-      std::fprintf(stderr, "velmora-cli: %s\n",
-                   i % 2 == 0 ? "a latitude lies between -90 and 90" : "a longitude lies between -180 and 180");
+      std::fprintf(
+          stderr, "velmora-cli: %s\n",
+          i % 2 == 0 ? "a latitude lies between -90 and 90" : "a longitude lies between -180 and 180");
       return exitWrongUsage;
     }
   }

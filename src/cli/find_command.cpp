@@ -47,7 +47,8 @@ Json AirportJson(const NavDatabase& db, std::int32_t rowNumber) {
   Json document = Common("airport", rowNumber, airport, 0);
   document["altitude"] = JsonNumber(airport.sngAltitude);
   document["runways"] = Json::array();
-  for (const RunwayRec& runway : db.Runways(airport)) document["runways"].push_back(RunwayJson(runway));
+  for (const RunwayRec& runway : db.Runways(airport))
+    document["runways"].push_back(RunwayJson(runway));
   document["frequencies"] = Json::array();
   for (const FrequencyRec& frequency : db.Frequencies(airport)) {
     document["frequencies"].push_back({{"type", strFreqType(frequency.bytType)},
@@ -55,7 +56,8 @@ Json AirportJson(const NavDatabase& db, std::int32_t rowNumber) {
                                        {"mhz", JsonNumber(frequency.sngFrequency)}});
   }
   document["ils"] = Json::array();
-  for (const IlsRec& ils : db.Ils(airport)) document["ils"].push_back(IlsJson(ils));
+  for (const IlsRec& ils : db.Ils(airport))
+    document["ils"].push_back(IlsJson(ils));
   document["parkings"] = airport.lngParkings;
   return document;
 }
@@ -86,9 +88,12 @@ Json IntersectionJson(const NavDatabase& db, std::int32_t rowNumber) {
 
 Json FindAll(const NavDatabase& db, std::string_view ident) {
   Json list = Json::array();
-  for (const std::int32_t row : db.airportsByIdent.All(ident)) list.push_back(AirportJson(db, row));
-  for (const std::int32_t row : db.intersectionsByIdent.All(ident)) list.push_back(IntersectionJson(db, row));
-  const auto add = [&](std::string_view kind, const auto& rows, const IdentIndex& index, const auto& frequency) {
+  for (const std::int32_t row : db.airportsByIdent.All(ident))
+    list.push_back(AirportJson(db, row));
+  for (const std::int32_t row : db.intersectionsByIdent.All(ident))
+    list.push_back(IntersectionJson(db, row));
+  const auto add = [&](std::string_view kind, const auto& rows, const IdentIndex& index,
+                       const auto& frequency) {
     for (const std::int32_t number : index.All(ident)) {
       const auto& row = rows[static_cast<std::size_t>(number)];
       list.push_back(Common(kind, number, row, frequency(row)));
@@ -106,18 +111,19 @@ Json FindAll(const NavDatabase& db, std::string_view ident) {
 void PrintForPeople(const Json& found) {
   for (const Json& row : found) {
     std::cout << row["kind"].get<std::string>() << ' ' << row["code"].get<std::string>() << "  "
-              << row["name"].get<std::string>() << "  " << row["lat"] << ", " << row["lon"] << "  row " << row["row"];
+              << row["name"].get<std::string>() << "  " << row["lat"] << ", " << row["lon"] << "  row "
+              << row["row"];
     if (row["freq"] != 0) std::cout << "  " << row["freq"];
     std::cout << '\n';
     if (row.contains("runways")) {
       for (const Json& runway : row["runways"]) {
-        std::cout << "    Rwy " << runway["id"].get<std::string>() << '/' << runway["recip"].get<std::string>() << "  "
-                  << runway["lengthFt"] << " x " << runway["widthFt"] << " ft  "
-                  << runway["surface"].get<std::string>() << '\n';
+        std::cout << "    Rwy " << runway["id"].get<std::string>() << '/'
+                  << runway["recip"].get<std::string>() << "  " << runway["lengthFt"] << " x "
+                  << runway["widthFt"] << " ft  " << runway["surface"].get<std::string>() << '\n';
       }
       for (const Json& ils : row["ils"]) {
-        std::cout << "    ILS " << ils["code"].get<std::string>() << "  Rwy " << ils["runway"].get<std::string>()
-                  << "  " << ils["mhz"] << " MHz\n";
+        std::cout << "    ILS " << ils["code"].get<std::string>() << "  Rwy "
+                  << ils["runway"].get<std::string>() << "  " << ils["mhz"] << " MHz\n";
       }
       for (const Json& frequency : row["frequencies"]) {
         std::cout << "    " << frequency["type"].get<std::string>() << "  " << frequency["mhz"] << "  "

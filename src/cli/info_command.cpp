@@ -53,9 +53,10 @@ int RunInfo(const CliOptions& options) {
     PrintJson(document);
     return exitDone;
   }
-  std::cout << "Application folder  " << options.home.Root().string() << "\nDatabase            Flight Simulator "
-            << (world->blnFSX == 0 ? "2004" : "X") << "\nAIRAC               " << session.strAiracCycle
-            << "\nLoaded in           " << static_cast<int>(loadTime.count()) << " ms\n\n";
+  std::cout << "Application folder  " << options.home.Root().string()
+            << "\nDatabase            Flight Simulator " << (world->blnFSX == 0 ? "2004" : "X")
+            << "\nAIRAC               " << session.strAiracCycle << "\nLoaded in           "
+            << static_cast<int>(loadTime.count()) << " ms\n\n";
   for (const auto& [name, count] : document["tables"].items()) {
     std::cout << name << std::string(20 - std::min<std::size_t>(name.size(), 19), ' ') << count << '\n';
   }

@@ -27,7 +27,9 @@ struct CommandLine {
 };
 
 CliOptions OptionsOf(const CommandLine& line) {
-  CliOptions options{AppFolder(DefaultAppFolder(line.home.empty() ? std::nullopt : std::optional(line.home))), {}, line.json};
+  CliOptions options{AppFolder(DefaultAppFolder(line.home.empty() ? std::nullopt : std::optional(line.home))),
+                     {},
+                     line.json};
   if (!line.simulator.empty()) options.blnFSX = static_cast<std::int16_t>(line.simulator == "2004" ? 0 : -1);
   return options;
 }
@@ -74,7 +76,9 @@ int main(int argc, char** argv) {
   app.add_flag("--json", line.json, "One JSON document on standard output");
   app.set_version_flag("--version", "Velmora 8.6");
   app.add_subcommand("info", "What the database holds");
-  app.add_subcommand("find", "Everything with an ident")->add_option("IDENT", line.ident, "Ident")->required();
+  app.add_subcommand("find", "Everything with an ident")
+      ->add_option("IDENT", line.ident, "Ident")
+      ->required();
   app.add_subcommand("course", "Distance and course between two positions")
       ->add_option("LAT1 LON1 LAT2 LON2", line.positions, "Degrees, north and east positive")
       ->expected(4)

@@ -40,8 +40,8 @@ std::optional<AircraftRec> ChooseAircraft(const CliOptions& options, const Setti
 
 void PrintForPeople(const FlightPlan& plan, const AircraftRec& aircraft) {
   std::cout << Utf8(plan.rows.front().Code.View()) << " to " << Utf8(plan.rows.back().Code.View()) << "  "
-            << plan.TotalDistance << " NM  " << FormatMinutes(plan.TotalMinutes) << "  FL " << plan.CruiseFL << "  "
-            << aircraft.Name << "\n\n";
+            << plan.TotalDistance << " NM  " << FormatMinutes(plan.TotalMinutes) << "  FL " << plan.CruiseFL
+            << "  " << aircraft.Name << "\n\n";
   for (std::size_t i = 0; i < plan.rows.size(); ++i) {
     const PlanWaypoint& row = plan.rows[i];
     const std::string code = Utf8(row.Code.View());
@@ -71,9 +71,9 @@ int RunPlan(const CliOptions& options, const PlanRequest& request) {
   bool generated = true;
   if (request.mode != PlanMode::direct) {
     AirwaySearch search(world->database);
-    generated = GenerateAirwayRoute(plan, context, search,
-                                    request.mode == PlanMode::lowAltitude ? AirwayNetwork::lowAltitude
-                                                                          : AirwayNetwork::highAltitude);
+    generated = GenerateAirwayRoute(
+        plan, context, search,
+        request.mode == PlanMode::lowAltitude ? AirwayNetwork::lowAltitude : AirwayNetwork::highAltitude);
   }
   if (options.json) {
     PrintJson(PlanDocument(plan, context, messages.ToJson()));

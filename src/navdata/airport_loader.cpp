@@ -56,8 +56,9 @@ RunwayRec ToRow(const RunwayFileRecord& record) {
 }
 
 FrequencyRec ToRow(const FrequencyFileRecord& record) {
-  return {record.strCode, FixedText<30>(record.strName.Raw()), record.sngLat, record.sngLon, record.sngFrequency,
-          record.bytType};
+  return {record.strCode,      FixedText<30>(record.strName.Raw()),
+          record.sngLat,       record.sngLon,
+          record.sngFrequency, record.bytType};
 }
 
 ParkingRec ToRow(const ParkingFileRecord& record) {
@@ -161,7 +162,8 @@ class AirportFile {
     row.firstRunway = static_cast<std::uint32_t>(database.runways.size());
     row.lngRunways = ReadSubTable<RunwayFileRecord>(reader, record.lngRunways, database.runways);
     row.firstFrequency = static_cast<std::uint32_t>(database.frequencies.size());
-    row.lngFrequencies = ReadSubTable<FrequencyFileRecord>(reader, record.lngFrequencies, database.frequencies);
+    row.lngFrequencies =
+        ReadSubTable<FrequencyFileRecord>(reader, record.lngFrequencies, database.frequencies);
     row.firstParking = static_cast<std::uint32_t>(database.parkings.size());
     row.lngParkings = ReadSubTable<ParkingFileRecord>(reader, record.lngParkings, database.parkings);
     row.firstIls = static_cast<std::uint32_t>(database.ils.size());
@@ -199,8 +201,9 @@ class AirportFile {
 
 bool ParseRegions(std::span<const std::byte> bytes, NavDatabase& database) {
   std::size_t rows = 0;
-  return ParseCounted<RegionFileRecord>(
-      bytes, rows, [&](const RegionFileRecord& record) { database.regions.emplace_back(record.strRegion.View()); });
+  return ParseCounted<RegionFileRecord>(bytes, rows, [&](const RegionFileRecord& record) {
+    database.regions.emplace_back(record.strRegion.View());
+  });
 }
 
 bool ParseCountries(std::span<const std::byte> bytes, NavDatabase& database) {
@@ -214,7 +217,8 @@ bool ParseCountries(std::span<const std::byte> bytes, NavDatabase& database) {
 bool ParseStates(std::span<const std::byte> bytes, NavDatabase& database) {
   std::size_t rows = 0;
   return ParseCounted<StateFileRecord>(bytes, rows, [&](const StateFileRecord& record) {
-    database.states.push_back({FixedText<40>(record.strState.View()), FixedText<40>(record.strCountry.View())});
+    database.states.push_back(
+        {FixedText<40>(record.strState.View()), FixedText<40>(record.strCountry.View())});
   });
 }
 

@@ -46,4 +46,5 @@ struct DatabaseFile {
 };
 
 // Reads a file whole; a missing or unreadable one has no contents.
-DatabaseFile OpenDatabaseFile(const DatabaseLocation& location, std::string_view folder, std::string_view name);
+DatabaseFile OpenDatabaseFile(const DatabaseLocation& location, std::string_view folder,
+                              std::string_view name);

@@ -267,8 +267,8 @@ struct IntersectionFileRecord {
 struct ConnectionFileRecord {
   std::int32_t lngNext = 0;  // intersection at the other end
   FixedText<8> strAirway;
-  float sngDistance = 0;    // NM
-  FixedText<5> strMinAlt;   // "FL" and three digits, or feet
+  float sngDistance = 0;   // NM
+  FixedText<5> strMinAlt;  // "FL" and three digits, or feet
   FixedText<5> strMaxAlt;
   static constexpr void Fields(auto& r, auto& visit) {
     visit(r.lngNext);

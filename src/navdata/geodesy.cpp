@@ -24,10 +24,13 @@ PointPair SeparatedRadians(float lat1, float lon1, float lat2, float lon2, doubl
 }
 
 // Arc cosine of a value that rounding may have carried just past 1.
-double ArcCos(double x) { return std::acos(std::clamp(x, -1.0, 1.0)); }
+double ArcCos(double x) {
+  return std::acos(std::clamp(x, -1.0, 1.0));
+}
 
 double CosineOfArc(const PointPair& p) {
-  return std::sin(p.lat1) * std::sin(p.lat2) + std::cos(p.lat1) * std::cos(p.lat2) * std::cos(p.lon1 - p.lon2);
+  return std::sin(p.lat1) * std::sin(p.lat2) +
+         std::cos(p.lat1) * std::cos(p.lat2) * std::cos(p.lon1 - p.lon2);
 }
 
 float Distance(float lat1, float lon1, float lat2, float lon2, double epsilon) {
@@ -36,9 +39,13 @@ float Distance(float lat1, float lon1, float lat2, float lon2, double epsilon) {
   return static_cast<float>(distance < 0.0 ? 0.51 : distance);
 }
 
-double MercatorLatitude(double lat) { return std::log((1.0 + std::sin(lat)) / std::cos(lat)); }
+double MercatorLatitude(double lat) {
+  return std::log((1.0 + std::sin(lat)) / std::cos(lat));
+}
 
-double ModTwoPi(double value) { return value - geodesyTwoPi * std::floor(value / geodesyTwoPi); }
+double ModTwoPi(double value) {
+  return value - geodesyTwoPi * std::floor(value / geodesyTwoPi);
+}
 
 // Degrees, minutes and (scaled) rest of an angle, rounded once so that no
 // part ever reads 60.
@@ -54,7 +61,8 @@ AngleParts RoundedParts(double angle, double stepsPerMinute) {
   return {CutToInt(degrees), (steps - degrees * stepsPerDegree) / stepsPerMinute};
 }
 
-std::string FormatAngle(float angle, char positive, char negative, std::string_view degreePicture, int style) {
+std::string FormatAngle(float angle, char positive, char negative, std::string_view degreePicture,
+                        int style) {
   std::string text(1, angle < 0 ? negative : positive);
   if (style == 0) {
     const AngleParts parts = RoundedParts(angle, 60.0);
@@ -70,22 +78,27 @@ std::string FormatAngle(float angle, char positive, char negative, std::string_v
 
 std::string FormatPlanAngle(double angle, char positive, char negative, std::string_view degreePicture) {
   const AngleParts parts = RoundedParts(angle, 10000.0);
-  return std::string(1, angle < 0 ? negative : positive) + FormatPicture(parts.degrees, degreePicture) + "* " +
-         FormatPicture(parts.minutes, "00.0000") + "', ";
+  return std::string(1, angle < 0 ? negative : positive) + FormatPicture(parts.degrees, degreePicture) +
+         "* " + FormatPicture(parts.minutes, "00.0000") + "', ";
 }
 
 Position FlatStep(float lat, float lon, double bearing, float distance, double degreeFactor) {
   const double newLat = lat + distance * std::cos(bearing * degreeFactor) / 60.0;
   const double meanLat = (lat + newLat) / 2.0;
-  const double newLon = lon + distance * std::sin(bearing * degreeFactor) / 60.0 / std::cos(meanLat * degreeFactor);
+  const double newLon =
+      lon + distance * std::sin(bearing * degreeFactor) / 60.0 / std::cos(meanLat * degreeFactor);
   return {static_cast<float>(newLat), static_cast<float>(newLon)};
 }
 
 }  // namespace
 
-double DegToRad(double deg) { return deg * (geodesyPi / 180.0); }
+double DegToRad(double deg) {
+  return deg * (geodesyPi / 180.0);
+}
 
-double RadToDeg(double rad) { return rad / (geodesyPi / 180.0); }
+double RadToDeg(double rad) {
+  return rad / (geodesyPi / 180.0);
+}
 
 double NormalizeDeg(double value) {
   if (value > 360.0) return value - 360.0;
@@ -93,7 +106,9 @@ double NormalizeDeg(double value) {
   return value;
 }
 
-double FeetToNM(double feet) { return feet / feetPerNM; }
+double FeetToNM(double feet) {
+  return feet / feetPerNM;
+}
 
 float GreatCircleDistance(float lat1, float lon1, float lat2, float lon2) {
   return Distance(lat1, lon1, lat2, lon2, distanceEpsilon);
@@ -147,11 +162,17 @@ Position GreatCircleOffset(float lat, float lon, float course, float distance) {
   return {static_cast<float>(RadToDeg(lat2)), static_cast<float>(lon2)};
 }
 
-std::string FormatLat(float lat, int style) { return FormatAngle(lat, 'N', 'S', "00", style); }
+std::string FormatLat(float lat, int style) {
+  return FormatAngle(lat, 'N', 'S', "00", style);
+}
 
-std::string FormatLon(float lon, int style) { return FormatAngle(lon, 'E', 'W', "000", style); }
+std::string FormatLon(float lon, int style) {
+  return FormatAngle(lon, 'E', 'W', "000", style);
+}
 
-std::string FormatPlanLat(float lat) { return FormatPlanAngle(lat, 'N', 'S', "00"); }
+std::string FormatPlanLat(float lat) {
+  return FormatPlanAngle(lat, 'N', 'S', "00");
+}
 
 std::string FormatPlanLon(float lon) {
   return FormatPlanAngle(std::fabs(lon) == 180.0F ? -179.9988 : lon, 'E', 'W', "000");

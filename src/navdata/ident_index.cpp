@@ -5,16 +5,17 @@
 
 #include "base/fixed_text.h"
 
-IdentIndex::IdentIndex(std::size_t rowCount)
-    : slots(std::bit_ceil(rowCount * 2 + 1)), next(rowCount, -1) {}
+IdentIndex::IdentIndex(std::size_t rowCount) : slots(std::bit_ceil(rowCount * 2 + 1)), next(rowCount, -1) {}
 
 std::size_t IdentIndex::SlotOf(std::string_view ident) const {
   const std::size_t mask = slots.size() - 1;
   // FNV-1a, 64 bit.
   std::uint64_t hash = 14695981039346656037u;
-  for (const char c : ident) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
+  for (const char c : ident)
+    hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
   std::size_t slot = (hash ^ (hash >> 29)) & mask;
-  while (slots[slot].first >= 0 && slots[slot].ident != ident) slot = (slot + 1) & mask;
+  while (slots[slot].first >= 0 && slots[slot].ident != ident)
+    slot = (slot + 1) & mask;
   return slot;
 }
 
@@ -34,6 +35,7 @@ std::int32_t IdentIndex::First(std::string_view ident) const {
 
 std::vector<std::int32_t> IdentIndex::All(std::string_view ident) const {
   std::vector<std::int32_t> rows;
-  for (std::int32_t row = First(ident); row >= 0; row = Next(row)) rows.push_back(row);
+  for (std::int32_t row = First(ident); row >= 0; row = Next(row))
+    rows.push_back(row);
   return rows;
 }

@@ -16,7 +16,8 @@ class IdentIndex {
   template <class IdentOf>
   static IdentIndex Build(std::size_t rowCount, const IdentOf& identOf) {
     IdentIndex index(rowCount);
-    for (std::size_t row = rowCount; row-- > 0;) index.AddInFront(static_cast<std::int32_t>(row), identOf(row));
+    for (std::size_t row = rowCount; row-- > 0;)
+      index.AddInFront(static_cast<std::int32_t>(row), identOf(row));
     return index;
   }
 
@@ -37,6 +38,6 @@ class IdentIndex {
     std::string_view ident;
     std::int32_t first = -1;
   };
-  std::vector<Slot> slots;           // open addressing, a power of two
-  std::vector<std::int32_t> next;    // by row
+  std::vector<Slot> slots;         // open addressing, a power of two
+  std::vector<std::int32_t> next;  // by row
 };

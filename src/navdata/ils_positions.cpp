@@ -20,12 +20,14 @@ void MoveToThreshold(IlsRec& ils, const RunwayRec& runway) {
 
 bool ReassignILSCoords(NavDatabase& database) {
   for (const AirportRec& airport : database.airports) {
-    const auto allIls = std::span(database.ils).subspan(airport.firstIls, static_cast<std::size_t>(airport.lngIls));
+    const auto allIls =
+        std::span(database.ils).subspan(airport.firstIls, static_cast<std::size_t>(airport.lngIls));
     for (IlsRec& ils : allIls) {
       const std::string_view code = ils.strCode.View();
       if (code.empty()) continue;
       for (const RunwayRec& runway : database.Runways(airport)) {
-        if (Names(runway.strIlsCode, code) || Names(runway.strIlsCodeRecip, code)) MoveToThreshold(ils, runway);
+        if (Names(runway.strIlsCode, code) || Names(runway.strIlsCodeRecip, code))
+          MoveToThreshold(ils, runway);
       }
     }
   }

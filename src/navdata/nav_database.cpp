@@ -21,7 +21,8 @@ PlaceIndex IndexPlaces(const std::vector<Row>& rows, std::size_t count,
                        const std::vector<bool>* skip = nullptr) {
   std::vector<Position> places;
   places.reserve(count);
-  for (std::size_t row = 0; row < count; ++row) places.push_back({rows[row].sngLat, rows[row].sngLon});
+  for (std::size_t row = 0; row < count; ++row)
+    places.push_back({rows[row].sngLat, rows[row].sngLon});
   return PlaceIndex::Build(places, skip);
 }
 
@@ -74,7 +75,8 @@ char AirwayLevel(const IntersectionRec& intersection) {
 }
 
 std::string GetRwyName(std::string_view code) {
-  static constexpr std::array<std::string_view, 8> compassPoints = {"N", "NE", "E", "SE", "S", "SW", "W", "NW"};
+  static constexpr std::array<std::string_view, 8> compassPoints = {"N", "NE", "E", "SE",
+                                                                    "S", "SW", "W", "NW"};
   const double number = Val(Trimmed(code));
   if (number >= 37 && number <= 44) return std::string(compassPoints[static_cast<std::size_t>(number) - 37]);
   return std::string(Trimmed(code));
@@ -83,8 +85,8 @@ std::string GetRwyName(std::string_view code) {
 void BuildIndexes(NavDatabase& database) {
   const auto scanned = static_cast<std::size_t>(database.lngAirports + 1);
   const auto real = static_cast<std::size_t>(database.AirportCount());
-  const auto nodes = std::min(static_cast<std::size_t>(database.lngIntersections + 1),
-                              database.intersections.size());
+  const auto nodes =
+      std::min(static_cast<std::size_t>(database.lngIntersections + 1), database.intersections.size());
   database.airportsByIdent = IndexIdents(database.airports, std::min(scanned, database.airports.size()));
   database.intersectionsByIdent = IndexIdents(database.intersections, nodes);
   database.fixesByIdent = IndexIdents(database.fixes, database.fixes.size());
@@ -93,7 +95,8 @@ void BuildIndexes(NavDatabase& database) {
   database.userWaypointsByIdent = IndexIdents(database.userWaypoints, database.userWaypoints.size());
 
   std::vector<bool> unused(nodes);
-  for (std::size_t row = 0; row < nodes; ++row) unused[row] = database.intersections[row].strCode.Empty();
+  for (std::size_t row = 0; row < nodes; ++row)
+    unused[row] = database.intersections[row].strCode.Empty();
   database.airportsByPlace = IndexPlaces(database.airports, std::min(real, database.airports.size()));
   database.intersectionsByPlace = IndexPlaces(database.intersections, nodes, &unused);
   database.fixesByPlace = IndexPlaces(database.fixes, database.fixes.size());

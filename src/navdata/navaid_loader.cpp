@@ -47,7 +47,8 @@ bool ReadConnections(ByteReader& reader, std::uint8_t& count, std::vector<Connec
       count = i;
       return false;
     }
-    table.push_back({record.lngNext, record.strAirway, record.sngDistance, record.strMinAlt, record.strMaxAlt});
+    table.push_back(
+        {record.lngNext, record.strAirway, record.sngDistance, record.strMinAlt, record.strMaxAlt});
   }
   return true;
 }
@@ -73,10 +74,10 @@ bool ParseVors(std::span<const std::byte> bytes, NavDatabase& database) {
   database.vors.reserve(bytes.size() / RecordSize<VorFileRecord>() + 1);
   return ParseRecords<VorFileRecord>(bytes, [&](const VorFileRecord& record) {
     if (record.strCode.IsEmptySlot()) return;
-    database.vors.push_back({record.strCode, record.strName, record.sngLat, record.sngLon, record.sngFrequency,
-                             database.magneticVariation.MagVarLookup(record.sngLat, record.sngLon),
-                             record.sngElevation, record.intType, record.intRange, record.intClass,
-                             FixedText<8>(VorTypeName(record.intType))});
+    database.vors.push_back(
+        {record.strCode, record.strName, record.sngLat, record.sngLon, record.sngFrequency,
+         database.magneticVariation.MagVarLookup(record.sngLat, record.sngLon), record.sngElevation,
+         record.intType, record.intRange, record.intClass, FixedText<8>(VorTypeName(record.intType))});
   });
 }
 
@@ -85,7 +86,8 @@ bool ParseNdbs(std::span<const std::byte> bytes, NavDatabase& database) {
   return ParseRecords<NdbFileRecord>(bytes, [&](const NdbFileRecord& record) {
     if (record.strCode.IsEmptySlot()) return;
     const bool hasDme = Val(record.strClass.Raw()) == 7;
-    database.ndbs.push_back({record.strCode, record.strName, record.sngLat, record.sngLon, record.sngFrequency,
+    database.ndbs.push_back({record.strCode, record.strName, record.sngLat, record.sngLon,
+                             record.sngFrequency,
                              database.magneticVariation.MagVarLookup(record.sngLat, record.sngLon),
                              record.sngElevation, FixedText<8>(hasDme ? "NDB-DME" : "NDB")});
   });

@@ -29,18 +29,19 @@ bool ParseUserWaypointBytes(Bytes bytes, NavDatabase& db) {
 // navaids and airspaces serve both simulator versions.
 const FileStep steps[] = {
     {"taxi.vlm", "...loading taxiways", true, WhenEmpty::goOn,
-     [](Bytes b, NavDatabase& db) { return ParseTaxiways(b, db.taxiways); }, "; taxicount = ",
-     [](const NavDatabase& db) { return db.taxiways.size(); }},
+     [](Bytes b, NavDatabase& db) { return ParseTaxiways(b, db.taxiways); },
+     "; taxicount = ", [](const NavDatabase& db) { return db.taxiways.size(); }},
     {"poly.vlm", "...loading polygons", true, WhenEmpty::goOn,
-     [](Bytes b, NavDatabase& db) { return ParsePolygons(b, db.polygons); }, "; polycount = ",
-     [](const NavDatabase& db) { return db.polygons.size(); }},
+     [](Bytes b, NavDatabase& db) { return ParsePolygons(b, db.polygons); },
+     "; polycount = ", [](const NavDatabase& db) { return db.polygons.size(); }},
     {"marker.vlm", "...loading markers", true, WhenEmpty::goOn,
-     [](Bytes b, NavDatabase& db) { return ParseMarkers(b, db.markers); }, "; markercount = ",
-     [](const NavDatabase& db) { return db.markers.size(); }},
+     [](Bytes b, NavDatabase& db) { return ParseMarkers(b, db.markers); },
+     "; markercount = ", [](const NavDatabase& db) { return db.markers.size(); }},
     {"msa.vlm", "...loading minimal safety altitude", false, WhenEmpty::goOn,
-     [](Bytes b, NavDatabase& db) { return ParseMsa(b, db.msa); }, "; msacount = ",
-     [](const NavDatabase& db) { return db.msa.size(); }},
-    {"dijinter.vlm", "...loading intersections", false, WhenEmpty::endProcess, ParseIntersections, "", nullptr},
+     [](Bytes b, NavDatabase& db) { return ParseMsa(b, db.msa); },
+     "; msacount = ", [](const NavDatabase& db) { return db.msa.size(); }},
+    {"dijinter.vlm", "...loading intersections", false, WhenEmpty::endProcess, ParseIntersections, "",
+     nullptr},
     {"vicways.vlm", "...loading victor airways", false, WhenEmpty::endProcess,
      [](Bytes b, NavDatabase& db) { return ParseAirways(b, db.victorAirways); }, "", nullptr},
     {"jetways.vlm", "...loading jet airways", false, WhenEmpty::endProcess,
@@ -50,8 +51,8 @@ const FileStep steps[] = {
     {"ndb.vlm", "...loading NDBs", false, WhenEmpty::endProcess, ParseNdbs, "", nullptr},
     {"airspace.vlm", "...loading control zones", false, WhenEmpty::endProcess,
      [](Bytes b, NavDatabase& db) { return ParseAirspaces(b, db.airspaces); }, "", nullptr},
-    {"userwp.txt", "", false, WhenEmpty::goOn, ParseUserWaypointBytes, "; usercount = ",
-     [](const NavDatabase& db) { return db.userWaypoints.size(); }},
+    {"userwp.txt", "", false, WhenEmpty::goOn, ParseUserWaypointBytes,
+     "; usercount = ", [](const NavDatabase& db) { return db.userWaypoints.size(); }},
     {"worldpolygon.bin", "...loading world polygons", false, WhenEmpty::endProcess,
      [](Bytes b, NavDatabase& db) { return ParseWorldPolygons(b, db.worldPolygons); }, "", nullptr},
     {"worldline.bin", "...loading world lines", false, WhenEmpty::endProcess,
@@ -66,7 +67,8 @@ std::string_view FolderOf(const FileStep& step, const DatabaseLocation& location
 
 }  // namespace
 
-LoadResult ReadNaviDatabases(const DatabaseLocation& location, LoadListener& listener, NavDatabase& database) {
+LoadResult ReadNaviDatabases(const DatabaseLocation& location, LoadListener& listener,
+                             NavDatabase& database) {
   LoadResult result;
   for (const FileStep& step : steps) {
     const DatabaseFile file = OpenDatabaseFile(location, FolderOf(step, location), step.name);
@@ -85,7 +87,8 @@ LoadResult ReadNaviDatabases(const DatabaseLocation& location, LoadListener& lis
     }
     std::string line = file.SizeLine();
     if (step.rows != nullptr) {
-      line += std::string(step.counterText) + std::to_string(static_cast<std::int64_t>(step.rows(database)) - 1);
+      line +=
+          std::string(step.counterText) + std::to_string(static_cast<std::int64_t>(step.rows(database)) - 1);
     }
     listener.WriteInfoLog(line);
   }

@@ -9,8 +9,12 @@ constexpr int cellRows = 180;
 constexpr int cellColumns = 360;
 constexpr std::size_t cellCount = static_cast<std::size_t>(cellRows) * cellColumns;
 
-int CellRow(double lat) { return std::clamp(static_cast<int>(std::floor(lat)) + 90, 0, cellRows - 1); }
-int CellColumn(double lon) { return std::clamp(static_cast<int>(std::floor(lon)) + 180, 0, cellColumns - 1); }
+int CellRow(double lat) {
+  return std::clamp(static_cast<int>(std::floor(lat)) + 90, 0, cellRows - 1);
+}
+int CellColumn(double lon) {
+  return std::clamp(static_cast<int>(std::floor(lon)) + 180, 0, cellColumns - 1);
+}
 
 std::size_t CellOf(Position place) {
   const auto lat = std::clamp(static_cast<double>(place.lat), -90.0, 90.0);
@@ -31,7 +35,8 @@ PlaceIndex PlaceIndex::Build(const std::vector<Position>& positions, const std::
     cells[row] = static_cast<std::uint32_t>(CellOf(place));
     ++index.cellStart[cells[row] + 1];
   }
-  for (std::size_t cell = 0; cell < cellCount; ++cell) index.cellStart[cell + 1] += index.cellStart[cell];
+  for (std::size_t cell = 0; cell < cellCount; ++cell)
+    index.cellStart[cell + 1] += index.cellStart[cell];
   index.rows.resize(index.cellStart.back());
   std::vector<std::uint32_t> at(index.cellStart.begin(), index.cellStart.end() - 1);
   for (std::size_t row = 0; row < cells.size(); ++row) {

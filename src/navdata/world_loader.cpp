@@ -30,14 +30,15 @@ FixedText<5> CleanLimit(const FixedText<5>& limit) {
   return FixedText<5>(Trimmed(cleaned).empty() ? "n/a" : cleaned);
 }
 
-bool ParseWorldShapes(std::span<const std::byte> bytes, WorldShapes& table, std::optional<std::int32_t> lastID) {
+bool ParseWorldShapes(std::span<const std::byte> bytes, WorldShapes& table,
+                      std::optional<std::int32_t> lastID) {
   ByteReader reader(bytes);
   table.points.reserve(bytes.size() / RecordSize<PointFileRecord>());
   while (!reader.AtEnd()) {
     WorldShapeFileRecord record;
     if (!reader.ReadRecord(record)) return false;
-    WorldShapeRec shape{record.lngID,   record.bytType, record.sngBox1, record.sngBox2,
-                        record.sngBox3, record.sngBox4, 0,              0};
+    WorldShapeRec shape{
+        record.lngID, record.bytType, record.sngBox1, record.sngBox2, record.sngBox3, record.sngBox4, 0, 0};
     shape.firstPoint = static_cast<std::uint32_t>(table.points.size());
     if (!ReadPoints(reader, std::int64_t{record.lngPoints} + 1, table.points)) return false;
     shape.pointCount = static_cast<std::uint32_t>(table.points.size() - shape.firstPoint);
@@ -57,7 +58,8 @@ std::optional<UserWaypointRec> ParseUserWaypoint(std::string_view line) {
   }
   const double lat = Val(fields[2]);
   const double lon = Val(fields[3]);
-  if (fields[0].empty() || fields[2].empty() || fields[3].empty() || std::fabs(lat) > 90 || std::fabs(lon) > 180) {
+  if (fields[0].empty() || fields[2].empty() || fields[3].empty() || std::fabs(lat) > 90 ||
+      std::fabs(lon) > 180) {
     return std::nullopt;
   }
   return UserWaypointRec{FixedText<10>(fields[0]), FixedText<40>(fields[1]), static_cast<float>(lat),
@@ -152,7 +154,8 @@ bool ParseUserWaypoints(std::string_view text, const MagneticVariationGrid& vari
     const std::size_t end = std::min(text.find('\n'), text.size());
     std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
-    while (!line.empty() && (line.back() == '\r' || line.back() == ' ')) line.remove_suffix(1);
+    while (!line.empty() && (line.back() == '\r' || line.back() == ' '))
+      line.remove_suffix(1);
     if (first && line != "VLMUSERDB") return false;
     if (!first && !line.empty() && !line.starts_with('#')) {
       auto row = ParseUserWaypoint(line);

@@ -9,8 +9,10 @@ namespace {
 
 std::string_view TrimLine(std::string_view text) {
   const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\0'; };
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  while (!text.empty() && isBlank(text.front()))
+    text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back()))
+    text.remove_suffix(1);
   return text;
 }
 
@@ -34,8 +36,8 @@ std::optional<KeyLine> SplitKey(std::string_view line) {
 }
 
 std::string_view Unquoted(std::string_view value) {
-  const bool quoted = value.size() >= 2 && value.front() == value.back() &&
-                      (value.front() == '"' || value.front() == '\'');
+  const bool quoted =
+      value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
@@ -47,7 +49,8 @@ IniFile IniFile::Parse(std::string_view text) {
     const std::size_t end = std::min(text.find('\n'), text.size());
     std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
-    while (line.ends_with('\r')) line.remove_suffix(1);
+    while (line.ends_with('\r'))
+      line.remove_suffix(1);
     file.lines.emplace_back(line);
   }
   return file;
@@ -77,7 +80,8 @@ std::ptrdiff_t IniFile::EndOfSection(std::ptrdiff_t head) const {
   return static_cast<std::ptrdiff_t>(end);
 }
 
-std::string IniFile::Read(std::string_view section, std::string_view key, std::string_view defaultValue) const {
+std::string IniFile::Read(std::string_view section, std::string_view key,
+                          std::string_view defaultValue) const {
   const std::ptrdiff_t head = FindSection(section);
   const std::ptrdiff_t at = head < 0 ? -1 : FindKey(head, key);
   if (at < 0) return std::string(defaultValue);
@@ -87,7 +91,8 @@ std::string IniFile::Read(std::string_view section, std::string_view key, std::s
 
 void IniFile::Write(std::string_view section, std::string_view key, std::string_view value) {
   std::string line = std::string(key) + "=" + std::string(value);
-  std::replace_if(line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r' || c == '\0'; }, ' ');
+  std::replace_if(
+      line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r' || c == '\0'; }, ' ');
   std::ptrdiff_t head = FindSection(section);
   if (head < 0) {
     head = static_cast<std::ptrdiff_t>(lines.size());
@@ -103,6 +108,7 @@ void IniFile::Write(std::string_view section, std::string_view key, std::string_
 
 std::string IniFile::Text() const {
   std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
+  for (const std::string& line : lines)
+    text += line + "\r\n";
   return text;
 }

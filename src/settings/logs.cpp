@@ -24,7 +24,9 @@ void WriteLine(std::ofstream& file, std::string_view text) {
   file.clear();
 }
 
-std::string FirstLine() { return "VLM " + std::string(versionText) + " - " + DateAndTime(); }
+std::string FirstLine() {
+  return "VLM " + std::string(versionText) + " - " + DateAndTime();
+}
 
 }  // namespace
 
@@ -43,7 +45,9 @@ bool InfoLog::Open(const AppFolder& home) {
   return true;
 }
 
-void InfoLog::WriteInfoLog(std::string_view text) { WriteLine(file, text); }
+void InfoLog::WriteInfoLog(std::string_view text) {
+  WriteLine(file, text);
+}
 
 void InfoLog::Close() {
   if (!file.is_open()) return;
@@ -58,7 +62,9 @@ bool ProtocolLog::Open(const AppFolder& home) {
   return true;
 }
 
-void ProtocolLog::WriteProtocol(std::string_view text) { WriteLine(file, text); }
+void ProtocolLog::WriteProtocol(std::string_view text) {
+  WriteLine(file, text);
+}
 
 void ProtocolLog::WriteError(std::string_view text) {
   ++errorCount;

@@ -48,7 +48,8 @@ struct Settings {
   std::int16_t SECWIDTH = 30;
   double FAFDIST = 8.5;     // NM
   std::int32_t FPSEL = 81;  // bit i: save format i
-  std::string FPPATH09, FPPATH10, SQUAWKBOXPATH, IVAOPATH, FSINNPATH, RADCONPATH, PROMAGPATH, TSPATH, XPLANEPATH;
+  std::string FPPATH09, FPPATH10, SQUAWKBOXPATH, IVAOPATH, FSINNPATH, RADCONPATH, PROMAGPATH, TSPATH,
+      XPLANEPATH;
   // Color
   ColorSettings colors;
   // Map

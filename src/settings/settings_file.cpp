@@ -167,15 +167,18 @@ bool FromText(std::string_view text, double& value) {
 }
 
 template <class Integer>
-  requires std::is_integral_v<Integer>
+requires std::is_integral_v<Integer>
 bool FromText(std::string_view text, Integer& value) {
   const double number = Val(text);
-  if (number < std::numeric_limits<Integer>::min() || number > std::numeric_limits<Integer>::max()) return false;
+  if (number < std::numeric_limits<Integer>::min() || number > std::numeric_limits<Integer>::max())
+    return false;
   value = static_cast<Integer>(RoundToEven(number));
   return true;
 }
 
-std::string ToText(const std::string& value) { return Utf8ToCodePage(value); }
+std::string ToText(const std::string& value) {
+  return Utf8ToCodePage(value);
+}
 
 std::string ToText(double value) {
   std::array<char, 32> buffer{};
@@ -183,8 +186,7 @@ std::string ToText(double value) {
 }
 
 template <class Integer>
-  requires std::is_integral_v<Integer>
-std::string ToText(Integer value) {
+requires std::is_integral_v<Integer> std::string ToText(Integer value) {
   return std::to_string(static_cast<int>(value));
 }
 
@@ -194,7 +196,9 @@ int HexDigit(char c) {
   return c >= 'A' && c <= 'F' ? c - 'A' + 10 : 0;
 }
 
-char KeyCharacter(std::size_t position) { return passwordKey[position % passwordKey.size()]; }
+char KeyCharacter(std::size_t position) {
+  return passwordKey[position % passwordKey.size()];
+}
 
 // Keeps the present file as the older generation, then replaces it.
 bool ReplaceKeepingOld(const AppFolder& home, std::string_view name, std::string_view oldName,
@@ -241,19 +245,23 @@ std::string SettingsText(const Settings& settings, std::string_view present) {
 
 bool WriteIni(const AppFolder& home, const Settings& settings, std::string* reason) {
   const std::string present = ReadText(home, settingsName);
-  if (!ReplaceKeepingOld(home, settingsName, "\\vlmini.old", present, SettingsText(settings, present), reason)) {
+  if (!ReplaceKeepingOld(home, settingsName, "\\vlmini.old", present, SettingsText(settings, present),
+                         reason)) {
     return false;
   }
   const std::string presentManager = ReadText(home, managerName);
   IniFile manager = IniFile::Parse(presentManager);
-  for (const std::string_view key : {"FSPATH09", "FSPATH10"}) manager.Write("FS", key, manager.Read("FS", key, ""));
+  for (const std::string_view key : {"FSPATH09", "FSPATH10"})
+    manager.Write("FS", key, manager.Read("FS", key, ""));
   manager.Write("FS", "FSLAST", settings.FSX == 0 ? "09" : "10");
-  return ReplaceKeepingOld(home, managerName, "\\VLMDbManagerini.old", presentManager, manager.Text(), reason);
+  return ReplaceKeepingOld(home, managerName, "\\VLMDbManagerini.old", presentManager, manager.Text(),
+                           reason);
 }
 
 SimulatorPaths ReadSimulatorPaths(const AppFolder& home) {
   const IniFile manager = IniFile::Parse(ReadText(home, managerName));
-  return {CodePageToUtf8(manager.Read("FS", "FSPATH09", "")), CodePageToUtf8(manager.Read("FS", "FSPATH10", ""))};
+  return {CodePageToUtf8(manager.Read("FS", "FSPATH09", "")),
+          CodePageToUtf8(manager.Read("FS", "FSPATH10", ""))};
 }
 
 std::string EncodeIvaoPWord(std::string_view password) {

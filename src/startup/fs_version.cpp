@@ -11,7 +11,9 @@ std::string_view FSDatabaseFolder(std::int16_t blnFSX) {
   return blnFSX == 0 ? "\\database\\FS09\\" : "\\database\\FS10\\";
 }
 
-std::string_view MagVarFileName(std::int16_t blnFSX) { return blnFSX == 0 ? "\\magvar09.qtr" : "\\magvar10.qtr"; }
+std::string_view MagVarFileName(std::int16_t blnFSX) {
+  return blnFSX == 0 ? "\\magvar09.qtr" : "\\magvar10.qtr";
+}
 
 bool IsDatabaseUsable(const AppFolder& home, std::int16_t blnFSX) {
   std::error_code error;

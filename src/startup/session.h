@@ -26,10 +26,10 @@ struct Session {
   MapView view;
   ProtocolLog protocol;
 
-  std::string strFSPath;       // root folder of the simulator in use, empty if unknown
-  std::string strAiracCycle;   // "2013.10", or "No AIRAC cycle installed!"
-  std::string strSwitchZ;      // "Z": developer switch, no lower bound of the download interval
-  std::string strSwitchNine;   // "9": developer switch, show the download's states
+  std::string strFSPath;      // root folder of the simulator in use, empty if unknown
+  std::string strAiracCycle;  // "2013.10", or "No AIRAC cycle installed!"
+  std::string strSwitchZ;     // "Z": developer switch, no lower bound of the download interval
+  std::string strSwitchNine;  // "9": developer switch, show the download's states
   bool blnProtocolLog = false;
   bool sidStarAvailable = false;
   bool weatherAvailable = false;

@@ -22,8 +22,10 @@ bool CreateFolder(const std::filesystem::path& folder) {
 
 std::string TrimField(std::string_view field) {
   const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '"'; };
-  while (!field.empty() && isBlank(field.front())) field.remove_prefix(1);
-  while (!field.empty() && isBlank(field.back())) field.remove_suffix(1);
+  while (!field.empty() && isBlank(field.front()))
+    field.remove_prefix(1);
+  while (!field.empty() && isBlank(field.back()))
+    field.remove_suffix(1);
   return std::string(field);
 }
 
@@ -51,7 +53,8 @@ bool SetFlightplanFolders(Session& session) {
     return true;
   };
   Settings& settings = session.settings;
-  if (setDefault(settings.SQUAWKBOXPATH, "\\FSplan\\SquawkBox")) successful &= CreateFolder(settings.SQUAWKBOXPATH);
+  if (setDefault(settings.SQUAWKBOXPATH, "\\FSplan\\SquawkBox"))
+    successful &= CreateFolder(settings.SQUAWKBOXPATH);
   if (setDefault(settings.IVAOPATH, "\\FSplan\\IVAO")) successful &= CreateFolder(settings.IVAOPATH);
   if (setDefault(settings.FSINNPATH, "\\FSplan\\FSInn")) successful &= CreateFolder(settings.FSINNPATH);
   if (setDefault(settings.RADCONPATH, "\\FSplan\\RC")) successful &= CreateFolder(settings.RADCONPATH);
@@ -95,8 +98,9 @@ bool ReadOnlineDatabases(Session& session, const LogLine& log) {
 }
 
 bool Check4OnlineFiles(const Session& session, const LogLine& log) {
-  for (const std::string_view name : {"\\urlivao.ini", "\\urlvatsim.ini", "\\ivao_status.txt", "\\vatsim_status.txt",
-                                      "\\database\\vlm_ivao.txt", "\\database\\vlm_vatsim.txt"}) {
+  for (const std::string_view name :
+       {"\\urlivao.ini", "\\urlvatsim.ini", "\\ivao_status.txt", "\\vatsim_status.txt",
+        "\\database\\vlm_ivao.txt", "\\database\\vlm_vatsim.txt"}) {
     std::error_code error;
     if (std::filesystem::exists(session.home.Resolve(name), error)) log(SizeLine(session.home, name));
   }
@@ -110,7 +114,8 @@ bool Check4SidStarFiles(Session& session, const LogLine& log, MessageBox& messag
     if (FileSizeOrZero(session.home.Resolve(name)) == 0) session.sidStarAvailable = false;
   }
   if (!session.sidStarAvailable) {
-    messages.Show(" SID and/or STAR files missing!  \n SID/STAR features unavailable!", MessageIcon::exclamation);
+    messages.Show(" SID and/or STAR files missing!  \n SID/STAR features unavailable!",
+                  MessageIcon::exclamation);
   }
   return session.sidStarAvailable;
 }

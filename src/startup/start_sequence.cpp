@@ -18,7 +18,9 @@ namespace {
 // Thrown by the step that ends the process, once the pilot has been told.
 struct StartEnded {};
 
-std::string_view TrueFalse(bool value) { return value ? "True" : "False"; }
+std::string_view TrueFalse(bool value) {
+  return value ? "True" : "False";
+}
 
 class StartSequence : private LoadListener {
  public:
@@ -172,7 +174,8 @@ class StartSequence : private LoadListener {
 
   bool LoadAircraft() {
     const AircraftFile file = ReadAircraftFile(session.home.Resolve(aircraftFileName));
-    for (const std::string& problem : file.problems) WriteInfoLog(problem);
+    for (const std::string& problem : file.problems)
+      WriteInfoLog(problem);
     session.aircraftList = file.aircraft;
     const auto current = ReadAircraft(file.aircraft, session.settings.AIRCRAFT);
     if (current) session.aircraft = *current;

@@ -4,7 +4,8 @@
 
 TEST(CodePage, EveryByteSurvivesTheWayToUtf8AndBack) {
   std::string all;
-  for (int c = 0; c < 256; ++c) all.push_back(static_cast<char>(c));
+  for (int c = 0; c < 256; ++c)
+    all.push_back(static_cast<char>(c));
   const std::string utf8 = CodePageToUtf8(all);
   EXPECT_TRUE(IsValidUtf8(utf8));
   EXPECT_EQ(Utf8ToCodePage(utf8), all);
@@ -13,12 +14,15 @@ TEST(CodePage, EveryByteSurvivesTheWayToUtf8AndBack) {
 TEST(CodePage, KnownCharacters) {
   EXPECT_EQ(CodePageToUtf8("K\xF6ln \x80 \xB7"), "Köln € ·");
   EXPECT_EQ(Utf8ToCodePage("São Tomé – Ünye"), "S\xE3o Tom\xE9 \x96 \xDCnye");
-  EXPECT_EQ(Utf8ToCodePage("Łódź"), "?\xF3"
-                                    "d?");
+  EXPECT_EQ(Utf8ToCodePage("Łódź"),
+            "?\xF3"
+            "d?");
 }
 
 TEST(CodePage, DamagedUtf8IsRefusedAndNeverLosesItsNeighbours) {
-  const char* damaged[] = {"\xC3", "a\xC3", "\xE2\x82", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\x80", "\xFF"};
-  for (const char* text : damaged) EXPECT_FALSE(IsValidUtf8(text));
+  const char* damaged[] = {"\xC3", "a\xC3", "\xE2\x82", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80",
+                           "\x80", "\xFF"};
+  for (const char* text : damaged)
+    EXPECT_FALSE(IsValidUtf8(text));
   EXPECT_EQ(Utf8ToCodePage("a\xC3z"), "a?z");
 }

@@ -23,7 +23,9 @@ CommandRun Capture(const Command& command) {
   return {code, std::move(out), testing::internal::GetCapturedStderr()};
 }
 
-CliOptions JsonFor(const SmallHome& home) { return {AppFolder(home.Path()), std::nullopt, true}; }
+CliOptions JsonFor(const SmallHome& home) {
+  return {AppFolder(home.Path()), std::nullopt, true};
+}
 
 }  // namespace
 
@@ -53,7 +55,8 @@ TEST(Cli, FindListsEveryKindAndTakesSmallLetters) {
   const SmallHome home;
   const struct {
     const char *ident, *kind;
-  } cases[] = {{"eddf", "airport"}, {"TABUM", "intersection"}, {"FFM", "VOR"}, {"fr", "NDB"}, {"FIXED", "fix"}};
+  } cases[] = {
+      {"eddf", "airport"}, {"TABUM", "intersection"}, {"FFM", "VOR"}, {"fr", "NDB"}, {"FIXED", "fix"}};
   for (const auto& c : cases) {
     const CommandRun run = Capture([&] { return RunFind(JsonFor(home), c.ident); });
     ASSERT_EQ(run.exitCode, exitDone) << c.ident;

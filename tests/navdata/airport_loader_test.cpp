@@ -51,12 +51,19 @@ DatabaseBytes TwoAirports() {
   ParkingFileRecord parking;
   parking.lngNumber = 14;
   DatabaseBytes bytes;
-  bytes.AddValue(std::int32_t{2}).Add(frankfurt).Add(east).Add(Runway("37", "36")).Add(frequency).Add(parking);
+  bytes.AddValue(std::int32_t{2})
+      .Add(frankfurt)
+      .Add(east)
+      .Add(Runway("37", "36"))
+      .Add(frequency)
+      .Add(parking);
   bytes.Add(Ils("IFRE")).Add(Ils("IXXX")).Add(Airport(1, "KJFK"));
   return bytes;
 }
 
-std::string CodeOf(const NavDatabase& db, std::size_t row) { return db.airports.at(row).strCode.Text(); }
+std::string CodeOf(const NavDatabase& db, std::size_t row) {
+  return db.airports.at(row).strCode.Text();
+}
 
 }  // namespace
 
@@ -100,7 +107,11 @@ TEST(AirportLoader, EmptySlotsHaveNoSubRecords) {
   AirportFileRecord empty;
   empty.lngRunways = 5;
   DatabaseBytes bytes;
-  bytes.AddValue(std::int32_t{3}).Add(Airport(0, "AAAA")).Add(Airport(1, "BBBB")).Add(empty).Add(Airport(2, "CCCC"));
+  bytes.AddValue(std::int32_t{3})
+      .Add(Airport(0, "AAAA"))
+      .Add(Airport(1, "BBBB"))
+      .Add(empty)
+      .Add(Airport(2, "CCCC"));
   NavDatabase db;
   EXPECT_TRUE(ParseAirports(bytes.All(), db));
   EXPECT_EQ(db.AirportCount(), 3);
@@ -141,7 +152,8 @@ TEST(AirportLoader, WildNumbersTakeNoMemoryAndLoseOnlyTheirRow) {
 TEST(LookupTexts, ACountTooSmallLosesTheRowsThatDoNotFit) {
   DatabaseBytes bytes;
   bytes.AddValue(std::int32_t{1});
-  for (const char* name : {"Europe", "Asia", "Africa"}) bytes.Add(RegionFileRecord{FixedText<30>(name)});
+  for (const char* name : {"Europe", "Asia", "Africa"})
+    bytes.Add(RegionFileRecord{FixedText<30>(name)});
   NavDatabase db;
   EXPECT_FALSE(ParseRegions(bytes.All(), db));
   ASSERT_EQ(db.regions.size(), 2u);

@@ -26,7 +26,9 @@ const Leg legs[] = {{50.0333F, 8.5706F, 40.6398F, -73.7789F, 3339.77943, 294.386
                     {-45, 10, -50, 10, 300.0, 180.0, 180.0},
                     {35, -120, 35, -60, 2901.38448, 71.67748, 90.0}};
 
-double AngleBetween(double a, double b) { return std::fabs(std::remainder(a - b, 360.0)); }
+double AngleBetween(double a, double b) {
+  return std::fabs(std::remainder(a - b, 360.0));
+}
 
 }  // namespace
 
@@ -55,7 +57,8 @@ TEST(Geodesy, EqualPointsAndPolesStayDefined) {
     EXPECT_LT(GreatCircleDistanceCoarse(p.lat, p.lon, p.lat, p.lon), 0.1);
     for (const Position q : points) {
       EXPECT_TRUE(std::isfinite(GreatCircleDistance(p.lat, p.lon, q.lat, q.lon)));
-      for (const float course : {GreatCircleCourse(p.lat, p.lon, q.lat, q.lon), RhumbCourse(p.lat, p.lon, q.lat, q.lon)}) {
+      for (const float course :
+           {GreatCircleCourse(p.lat, p.lon, q.lat, q.lon), RhumbCourse(p.lat, p.lon, q.lat, q.lon)}) {
         EXPECT_GE(course, 0);
         EXPECT_LE(course, 360);
       }
@@ -66,7 +69,8 @@ TEST(Geodesy, EqualPointsAndPolesStayDefined) {
 
 TEST(Geodesy, NormalizeTakesOneStepOnly) {
   const double cases[][2] = {{800, 440}, {360, 360}, {360.5, 0.5}, {-0.5, 359.5}, {0, 0}, {-400, -40}};
-  for (const auto& c : cases) EXPECT_DOUBLE_EQ(NormalizeDeg(c[0]), c[1]);
+  for (const auto& c : cases)
+    EXPECT_DOUBLE_EQ(NormalizeDeg(c[0]), c[1]);
 }
 
 TEST(Geodesy, FlatOffsetGoesAgainstTheBearing) {
@@ -115,7 +119,8 @@ TEST(Geodesy, VariationAndTimeTexts) {
     double minutes;
     const char* text;
   } cases[] = {{0, "00:00"}, {59.9, "00:59"}, {412, "06:52"}, {1440 + 61, "01:01"}, {-5, "00:00"}};
-  for (const auto& c : cases) EXPECT_EQ(FormatMinutes(c.minutes), c.text);
+  for (const auto& c : cases)
+    EXPECT_EQ(FormatMinutes(c.minutes), c.text);
 }
 
 TEST(MagneticVariation, TheCellToTheSouthWestIsTaken) {

@@ -13,9 +13,11 @@ TEST(IdentIndex, AnswersAsAScanFromRowZero) {
   std::vector<std::string> idents(5000);
   for (std::string& ident : idents) {
     const auto length = random() % 3;  // some empty, many equal
-    for (unsigned i = 0; i < length; ++i) ident.push_back(static_cast<char>('A' + random() % 26));
+    for (unsigned i = 0; i < length; ++i)
+      ident.push_back(static_cast<char>('A' + random() % 26));
   }
-  const auto index = IdentIndex::Build(idents.size(), [&](std::size_t row) { return std::string_view(idents[row]); });
+  const auto index =
+      IdentIndex::Build(idents.size(), [&](std::size_t row) { return std::string_view(idents[row]); });
   for (const char* wanted : {"A", "ZZ", "QX", "", "ABC"}) {
     std::vector<std::int32_t> scan;
     for (std::size_t row = 0; row < idents.size(); ++row) {
@@ -32,16 +34,18 @@ TEST(PlaceIndex, HoldsEveryRowThatAScanFindsInAscendingOrder) {
   std::uniform_real_distribution<float> lat(-90, 90);
   std::uniform_real_distribution<float> lon(-180, 180);
   std::vector<Position> places;
-  for (int i = 0; i < 20000; ++i) places.push_back({lat(random), lon(random)});
-  for (const Position edge : {Position{90, 180}, {-90, -180}, {0, 180}, {0, -180}, {90, 0}}) places.push_back(edge);
+  for (int i = 0; i < 20000; ++i)
+    places.push_back({lat(random), lon(random)});
+  for (const Position edge : {Position{90, 180}, {-90, -180}, {0, 180}, {0, -180}, {90, 0}})
+    places.push_back(edge);
   places.push_back({std::nanf(""), 0});
   const PlaceIndex index = PlaceIndex::Build(places);
 
   const struct {
     Position centre;
     double radius;
-  } circles[] = {{{50, 8}, 30},   {{0, 179.95F}, 60}, {{89.9F, 10}, 200}, {{-90, 0}, 50},
-                 {{80, -179}, 600}, {{0, 0}, 11000},   {{60, -180}, 5},    {{45, 45}, 0}};
+  } circles[] = {{{50, 8}, 30},     {{0, 179.95F}, 60}, {{89.9F, 10}, 200}, {{-90, 0}, 50},
+                 {{80, -179}, 600}, {{0, 0}, 11000},    {{60, -180}, 5},    {{45, 45}, 0}};
   for (const auto& circle : circles) {
     const auto near = index.Near(circle.centre, circle.radius);
     EXPECT_TRUE(std::is_sorted(near.begin(), near.end()));
@@ -69,6 +73,8 @@ TEST(PlaceIndex, BoxesAcrossTheDateLine) {
 TEST(RunwayNames, NumbersAbove36AreCompassPoints) {
   const struct {
     const char *code, *name;
-  } cases[] = {{"37", "N"}, {"38", "NE"}, {"44", "NW"}, {"36", "36"}, {"45", "45"}, {"07L ", "07L"}, {"", ""}};
-  for (const auto& c : cases) EXPECT_EQ(GetRwyName(c.code), c.name);
+  } cases[] = {{"37", "N"},  {"38", "NE"},    {"44", "NW"}, {"36", "36"},
+               {"45", "45"}, {"07L ", "07L"}, {"", ""}};
+  for (const auto& c : cases)
+    EXPECT_EQ(GetRwyName(c.code), c.name);
 }

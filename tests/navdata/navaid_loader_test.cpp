@@ -30,7 +30,8 @@ TEST(VorLoader, TypesBecomeTheirTextsAndTheVariationIsLookedUp) {
   const struct {
     std::int16_t type;
     const char* text;
-  } cases[] = {{1, "VOR"}, {2, "VORTAC"}, {3, "TACAN"}, {4, "VOR-DME"}, {5, "VOR"}, {8, "VOR"}, {9, "DME"}, {0, "VOR"}};
+  } cases[] = {{1, "VOR"}, {2, "VORTAC"}, {3, "TACAN"}, {4, "VOR-DME"},
+               {5, "VOR"}, {8, "VOR"},    {9, "DME"},   {0, "VOR"}};
   DatabaseBytes bytes;
   for (const auto& c : cases) {
     VorFileRecord record;
@@ -58,7 +59,8 @@ TEST(NdbLoader, ClassSevenHasADme) {
   NavDatabase db;
   ASSERT_TRUE(ParseNdbs(bytes.All(), db));
   const char* expected[] = {"NDB", "NDB-DME", "NDB-DME", "NDB", "NDB"};
-  for (std::size_t i = 0; i < db.ndbs.size(); ++i) EXPECT_EQ(db.ndbs[i].strType, expected[i]);
+  for (std::size_t i = 0; i < db.ndbs.size(); ++i)
+    EXPECT_EQ(db.ndbs[i].strType, expected[i]);
 }
 
 TEST(FixLoader, SkipsEmptySlotsAndKeepsTheWholeRowsOfACutFile) {
@@ -102,7 +104,8 @@ TEST(IntersectionLoader, TheLetterFollowsTheLinks) {
   for (const auto& c : cases) {
     DatabaseBytes bytes;
     bytes.Add(Node(1, "AAAAA", c.low, c.high, c.stated));
-    for (int i = 0; i < c.low + c.high; ++i) bytes.Add(Link(1, "A1"));
+    for (int i = 0; i < c.low + c.high; ++i)
+      bytes.Add(Link(1, "A1"));
     NavDatabase db;
     ASSERT_TRUE(ParseIntersections(bytes.All(), db));
     EXPECT_EQ(AirwayLevel(db.intersections[1]), c.level) << c.stated << c.low << c.high;
@@ -111,7 +114,10 @@ TEST(IntersectionLoader, TheLetterFollowsTheLinks) {
 
 TEST(IntersectionLoader, NumbersOffTheTableLoseOnlyTheirRow) {
   DatabaseBytes bytes;
-  bytes.Add(Node(40000, "LAST", 0, 0)).Add(Node(40001, "OVER", 1, 0)).Add(Link(1, "V1")).Add(Node(-1, "NEGA", 0, 0));
+  bytes.Add(Node(40000, "LAST", 0, 0))
+      .Add(Node(40001, "OVER", 1, 0))
+      .Add(Link(1, "V1"))
+      .Add(Node(-1, "NEGA", 0, 0));
   NavDatabase db;
   EXPECT_FALSE(ParseIntersections(bytes.All(), db));
   EXPECT_EQ(db.lngIntersections, 40000);
@@ -123,11 +129,13 @@ TEST(IntersectionLoader, NumbersOffTheTableLoseOnlyTheirRow) {
 TEST(IntersectionLoader, CutAtEveryByteTheLinkCountsTellWhatIsThere) {
   DatabaseBytes whole;
   whole.Add(Node(1, "AAAAA", 2, 2));
-  for (int i = 0; i < 4; ++i) whole.Add(Link(1, "A1"));
+  for (int i = 0; i < 4; ++i)
+    whole.Add(Link(1, "A1"));
   for (std::size_t cut = 1; cut < whole.All().size(); ++cut) {
     NavDatabase db;
     EXPECT_FALSE(ParseIntersections(whole.CutBy(cut), db));
     const IntersectionRec& node = db.intersections[1];
-    EXPECT_EQ(db.LowAlt(node).size() + db.HighAlt(node).size(), db.lowConnections.size() + db.highConnections.size());
+    EXPECT_EQ(db.LowAlt(node).size() + db.HighAlt(node).size(),
+              db.lowConnections.size() + db.highConnections.size());
   }
 }

@@ -29,7 +29,8 @@ TEST(AirwayLoader, LimitsAreCleanedAndRecordsWithoutEndDropped) {
   } cases[] = {{"FL195", "05000", "FL195", "5000"}, {"", "0", "n/a", "n/a"}, {" 0450", "00", "450", "0"}};
   DatabaseBytes bytes;
   for (const auto& c : cases) {
-    bytes.Add(AirwaySegmentFileRecord{FixedText<8>(" UL607"), 1, 2, 10, FixedText<5>(c.upper), FixedText<5>(c.lower)});
+    bytes.Add(AirwaySegmentFileRecord{FixedText<8>(" UL607"), 1, 2, 10, FixedText<5>(c.upper),
+                                      FixedText<5>(c.lower)});
   }
   bytes.Add(AirwaySegmentFileRecord{FixedText<8>("GONE"), 1, -1, 10, {}, {}});
   std::vector<AirwaySegmentRec> table;
@@ -55,7 +56,11 @@ TEST(AirspaceLoader, PointsFollowTheirRecordAndAWildCountEndsTheTable) {
   AirspaceFileRecord wild = first;
   wild.intPoints = std::numeric_limits<std::int16_t>::max();
   DatabaseBytes bytes;
-  bytes.Add(first).Add(PointFileRecord{1, 2}).Add(PointFileRecord{3, 4}).Add(skipped).Add(PointFileRecord{5, 6});
+  bytes.Add(first)
+      .Add(PointFileRecord{1, 2})
+      .Add(PointFileRecord{3, 4})
+      .Add(skipped)
+      .Add(PointFileRecord{5, 6});
   bytes.Add(none).Add(wild).Add(PointFileRecord{7, 8});
   std::vector<AirspaceRec> table;
   EXPECT_FALSE(ParseAirspaces(bytes.All(), table));
@@ -137,17 +142,18 @@ class Recorder : public LoadListener {
 
 TEST(NaviDatabases, TheFirstFileThatMustNotBeEmptyEndsTheLoad) {
   const TemporaryFolder folder;
-  const DatabaseLocation location{AppFolder(folder.Path()), "\\database\\FS09\\", " for Flight Simulator 2004"};
+  const DatabaseLocation location{AppFolder(folder.Path()), "\\database\\FS09\\",
+                                  " for Flight Simulator 2004"};
   folder.Write("database/dijinter.vlm", "cut off");
   Recorder recorder;
   NavDatabase db;
   const LoadResult result = ReadNaviDatabases(location, recorder, db);
   EXPECT_FALSE(result.successful);
   EXPECT_EQ(result.emptyFile, " vicways.vlm ");
-  const std::vector<std::string> progress = {"...loading taxiways for Flight Simulator 2004",
-                                             "...loading polygons for Flight Simulator 2004",
-                                             "...loading markers for Flight Simulator 2004",
-                                             "...loading minimal safety altitude", "...loading intersections"};
+  const std::vector<std::string> progress = {
+      "...loading taxiways for Flight Simulator 2004", "...loading polygons for Flight Simulator 2004",
+      "...loading markers for Flight Simulator 2004", "...loading minimal safety altitude",
+      "...loading intersections"};
   EXPECT_EQ(recorder.progress, progress);
   const std::vector<std::string> log = {"taxi.vlm = 0; taxicount = -1",
                                         "poly.vlm = 0; polycount = -1",

@@ -18,10 +18,11 @@ TEST(IniFile, ReadsAsTheClassicFormatIsRead) {
       "late=1");
   const struct {
     const char *section, *key, *value;
-  } cases[] = {{"USER", "Scale", "7"},       {"user", "empty", ""},    {"User", "quoted", "  a b "},
+  } cases[] = {{"USER", "Scale", "7"},        {"user", "empty", ""},    {"User", "quoted", "  a b "},
                {"User", "PATH", "C:\\a=b;c"}, {"fs", "fsx", "-1"},      {"User", "late", "default"},
-               {"User", "stray", "default"}, {"None", "x", "default"}, {"", "stray", "default"}};
-  for (const auto& c : cases) EXPECT_EQ(file.Read(c.section, c.key, "default"), c.value) << c.section << ' ' << c.key;
+               {"User", "stray", "default"},  {"None", "x", "default"}, {"", "stray", "default"}};
+  for (const auto& c : cases)
+    EXPECT_EQ(file.Read(c.section, c.key, "default"), c.value) << c.section << ' ' << c.key;
 }
 
 TEST(IniFile, AValueIsCutAt256Characters) {
@@ -34,5 +35,6 @@ TEST(IniFile, WritingKeepsWhatItDoesNotTouch) {
   file.Write("USER", "SCALE", "9");
   file.Write("USER", "NEW", "a\nb");
   file.Write("FS", "FSX", "0");
-  EXPECT_EQ(file.Text(), "; mine\r\n[User]\r\nSCALE=9\r\nOther=1\r\nNEW=a b\r\n\r\n[Zoo]\r\nLion=1\r\n[FS]\r\nFSX=0\r\n");
+  EXPECT_EQ(file.Text(),
+            "; mine\r\n[User]\r\nSCALE=9\r\nOther=1\r\nNEW=a b\r\n\r\n[Zoo]\r\nLion=1\r\n[FS]\r\nFSX=0\r\n");
 }

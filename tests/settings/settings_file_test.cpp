@@ -20,7 +20,8 @@ TEST(SettingsFile, WhatIsMissingHasItsDefault) {
 }
 
 TEST(SettingsFile, NumbersAreTheNumericValueOfTheText) {
-  const Settings s = ReadSettings("[user]\nscale=13 NM\nMAPWIN=x\nFuel=1\n[FLIGHTPLAN]\nFafDist=7.25\n").settings;
+  const Settings s =
+      ReadSettings("[user]\nscale=13 NM\nMAPWIN=x\nFuel=1\n[FLIGHTPLAN]\nFafDist=7.25\n").settings;
   EXPECT_EQ(s.SCALE, 13);
   EXPECT_EQ(s.MAPWIN, 0);
   EXPECT_EQ(s.FUEL, 1);

@@ -13,7 +13,8 @@ class SmallHome {
     folder.Write("magvar09.qtr", std::string(360 * 181 * 2, '\0'));
     folder.Write("magvar10.qtr", std::string(360 * 181 * 2, '\0'));
     folder.Write("VLM_intro.bmp", "BM");
-    for (const char* version : {"FS09", "FS10"}) WriteVersion(version);
+    for (const char* version : {"FS09", "FS10"})
+      WriteVersion(version);
     WriteShared();
     folder.Write("database/WxStation.txt", "EDDF,50.03,8.57\r\n");
     folder.Write("database/sid.vlm", "x");
@@ -44,10 +45,12 @@ class SmallHome {
   void WriteVersion(const std::filesystem::path& version) {
     const auto at = [&](const char* name) { return "database" / version / name; };
     WriteRecords(at("region.vlm"), Count{}, RegionFileRecord{FixedText<30>("Europe")});
-    WriteRecords(at("country.vlm"), Count{}, CountryFileRecord{FixedText<40>("Germany"), FixedText<30>("Europe")});
+    WriteRecords(at("country.vlm"), Count{},
+                 CountryFileRecord{FixedText<40>("Germany"), FixedText<30>("Europe")});
     WriteRecords(at("state.vlm"), Count{}, StateFileRecord{FixedText<40>("Hesse"), FixedText<40>("Germany")});
-    WriteRecords(at("city.vlm"), Count{},
-                 CityFileRecord{FixedText<40>("Frankfurt"), FixedText<40>("Hesse"), FixedText<40>("Germany")});
+    WriteRecords(
+        at("city.vlm"), Count{},
+        CityFileRecord{FixedText<40>("Frankfurt"), FixedText<40>("Hesse"), FixedText<40>("Germany")});
     AirportFileRecord airport;
     airport.strCode = "EDDF";
     airport.strName = "Frankfurt";

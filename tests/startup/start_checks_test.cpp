@@ -55,6 +55,8 @@ TEST(Password, IsUnscrambledInPlaceUnlessEmpty) {
 }
 
 TEST(ValidAscii, TheThreeRanges) {
-  for (const int code : {32, 122, 128, 167, 192, 255}) EXPECT_TRUE(CheckValidAscii(code)) << code;
-  for (const int code : {-1, 31, 123, 127, 168, 191, 256}) EXPECT_FALSE(CheckValidAscii(code)) << code;
+  for (const int code : {32, 122, 128, 167, 192, 255})
+    EXPECT_TRUE(CheckValidAscii(code)) << code;
+  for (const int code : {-1, 31, 123, 127, 168, 191, 256})
+    EXPECT_FALSE(CheckValidAscii(code)) << code;
 }

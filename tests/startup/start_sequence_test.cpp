@@ -60,8 +60,9 @@ std::vector<std::string> Steps(const std::string& log) {
   return steps;
 }
 
-constexpr const char* databasesMissing = " missing or incomplete!\n\n"
-                                         "Please choose different FS version or run Database Manager first!";
+constexpr const char* databasesMissing =
+    " missing or incomplete!\n\n"
+    "Please choose different FS version or run Database Manager first!";
 
 }  // namespace
 
@@ -134,9 +135,12 @@ TEST(StartSequence, WhichDatabaseIsLoaded) {
     int setting;
     const char* commandLine;
     int loaded;  // 0, -1, or 1: the process ends
-  } cases[] = {{"both, setting 2004", true, true, 0, "", 0},     {"both, setting X", true, true, -1, "", -1},
-               {"only X, setting 2004", false, true, 0, "", -1}, {"only 2004, setting X", true, false, -1, "", 1},
-               {"0 on the command line", true, true, -1, "0", 0}, {"1 wins over 0", true, true, 0, "01", -1},
+  } cases[] = {{"both, setting 2004", true, true, 0, "", 0},
+               {"both, setting X", true, true, -1, "", -1},
+               {"only X, setting 2004", false, true, 0, "", -1},
+               {"only 2004, setting X", true, false, -1, "", 1},
+               {"0 on the command line", true, true, -1, "0", 0},
+               {"1 wins over 0", true, true, 0, "01", -1},
                {"1 without X", true, false, 0, "1", 1}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -166,7 +170,8 @@ TEST(StartSequence, MissingAndEmptyFiles) {
     bool ends;
   } cases[] = {
       {"database/FS09/region.vlm",
-       "            You have to run the Database Manager first!!        \nFile region.vlm missing or zero bytes! "
+       "            You have to run the Database Manager first!!        \nFile region.vlm missing or zero "
+       "bytes! "
        "Check VLM_Info.log for details!",
        "Exit in ErrorFileEmpty\n", true},
       {"database/vor.vlm", " File vor.vlm missing or zero bytes!  \n Check VLM_Info.log for details!",
@@ -179,14 +184,16 @@ TEST(StartSequence, MissingAndEmptyFiles) {
        "magvar10.qtr\n", true},
       {"database/star.vlm", " SID and/or STAR files missing!  \n SID/STAR features unavailable!",
        "Check4SidStarFiles successful (False)\n", false},
-      {"database/WxStation.txt", " Weather Station file corrupt or missing!  \n      Weather features unavailable!",
+      {"database/WxStation.txt",
+       " Weather Station file corrupt or missing!  \n      Weather features unavailable!",
        "Check4WeatherFile successful (False)\n", false},
       {"database/AIRAC.INI", nullptr, "No AIRAC cycle installed!\n", false},
       {"user/aircraft.vlm", nullptr, "ReadAircraft successful (False)\n", false}};
   for (const bool removed : {true, false}) {
     for (const auto& c : cases) {
       SCOPED_TRACE(std::string(c.file) + (removed ? " removed" : " emptied"));
-      if (!removed && std::string_view(c.file).starts_with("magvar")) continue;  // its presence alone is tested
+      if (!removed && std::string_view(c.file).starts_with("magvar"))
+        continue;  // its presence alone is tested
       const SmallHome home;
       home.Remove(c.file);
       if (!removed) home.Folder().Write(c.file, "");
@@ -219,7 +226,8 @@ TEST(StartSequence, WithoutAnyDatabaseTheBundledOneIsOfferedFirst) {
   EXPECT_EQ(start.view.offers, 1);
   EXPECT_EQ(start.outcome, StartOutcome::ended);
   ASSERT_EQ(start.messages.texts.size(), 1u);
-  EXPECT_EQ(start.messages.texts[0], std::string("     Databases for Flight Simulator 2004") + databasesMissing);
+  EXPECT_EQ(start.messages.texts[0],
+            std::string("     Databases for Flight Simulator 2004") + databasesMissing);
   EXPECT_TRUE(std::filesystem::is_directory(home.Path() / "database/FS10"));
 }
 
@@ -229,5 +237,6 @@ TEST(LoadWorld, NamesTheMissingFileAndTheCommand) {
   home.Remove("database/ndb.vlm");
   const std::string error = LoadWorld(AppFolder(home.Path())).error;
   EXPECT_NE(error.find("ndb.vlm"), std::string::npos) << error;
-  EXPECT_NE(error.find("velmora-dbmanager --home " + home.Path().string() + " --bundled"), std::string::npos) << error;
+  EXPECT_NE(error.find("velmora-dbmanager --home " + home.Path().string() + " --bundled"), std::string::npos)
+      << error;
 }
