@@ -242,11 +242,13 @@ class AirportFilesMaker {
   void MakeLists() {
     std::set<std::string> regionNames;
     std::vector<CountryFileRecord> countryRows;
+    countryRows.reserve(regionOf.size());
     for (const auto& [name, region] : regionOf) {
       regionNames.insert(region);
       countryRows.push_back({FixedText<40>(name), FixedText<30>(region)});
     }
     std::vector<RegionFileRecord> regionRows;
+    regionRows.reserve(regionNames.size());
     for (const std::string& name : regionNames)
       regionRows.push_back({FixedText<30>(name)});
     std::vector<StateFileRecord> stateRows;

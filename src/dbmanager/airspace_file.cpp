@@ -97,6 +97,7 @@ AirspaceFile MakeControlZones(std::span<const AirportPlace> places) {
   for (const AirportPlace& place : places) {
     if (!place.towered) continue;
     std::vector<SourcePosition> circle;
+    circle.reserve(zonePoints);
     for (int i = 0; i < zonePoints; ++i) {
       circle.push_back(Offset(place.position, 360.0 * i / zonePoints, zoneRadiusNM));
     }

@@ -305,7 +305,7 @@ bool BuildBundledDatabase(const fs::path& home, const fs::path& dataFolder, cons
 }
 
 fs::path DefaultDataFolder() {
-  const fs::path ofSources = VELMORA_DATA_FOLDER;
+  fs::path ofSources = VELMORA_DATA_FOLDER;
   std::error_code error;
   if (fs::is_directory(ofSources, error)) return ofSources;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);

@@ -69,9 +69,7 @@ int Run(const BuildOptions& options) {
   return exitDone;
 }
 
-}  // namespace
-
-int main(int argumentCount, char** arguments) {
+int Main(int argumentCount, char** arguments) {
   CLI::App app("Makes Velmora's database from open navigation data.", "velmora-dbmanager");
   std::optional<std::string> home, flightGear, xPlane, cifp, data, dateText;
   std::vector<std::string> openAir;
@@ -112,4 +110,15 @@ int main(int argumentCount, char** arguments) {
   }
   options.openAir.assign(openAir.begin(), openAir.end());
   return Run(options);
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  try {
+    return Main(argumentCount, arguments);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "velmora-dbmanager: %s\n", error.what());
+    return exitFailed;
+  }
 }

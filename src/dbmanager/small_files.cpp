@@ -47,4 +47,3 @@ WeatherStations MakeWeatherStations(LineReader& lines, std::span<const AirportPl
   }
   return stations;
 }
-
