@@ -83,6 +83,6 @@ class frmMap : public QMainWindow {
   pnlFlightplan* panel;
   std::map<QString, QAction*> actions;  // by menu name
   std::array<QLabel*, 6> lblMapStatus{};
-  QActionGroup aircraftGroup{this};
+  QActionGroup* aircraftGroup;
   QTimer tmrClock;
 };

@@ -90,12 +90,13 @@ void frmMap::BuildMenus() {
 void frmMap::BuildAircraftMenu() {
   QMenu* menu = menuBar()->addMenu(tr("Air&craft"));
   menu->setObjectName("mnuAircraft");
+  aircraftGroup = new QActionGroup(this);
   for (const AircraftRec& aircraft : session.aircraftList) {
     QAction* action = menu->addAction(QString::fromStdString(aircraft.Name));
     action->setObjectName(QString("mnuAircraft(%1)").arg(aircraft.Number));
     action->setCheckable(true);
     action->setChecked(aircraft.Number == session.aircraft.Number);
-    aircraftGroup.addAction(action);
+    aircraftGroup->addAction(action);
     connect(action, &QAction::triggered, this, [this, &aircraft] { TakeAircraft(aircraft); });
   }
   menu->setEnabled(!session.aircraftList.empty());
