@@ -1,6 +1,7 @@
 // velmora-cli: what the window does with a mouse, from a shell.
 
 #include <CLI/CLI.hpp>
+#include <cstdio>
 #include <iostream>
 
 #include "cli/commands.h"
@@ -63,18 +64,7 @@ int RunCommand(const CommandLine& line, const CLI::App& app, const CLI::App& pla
   return RunPlan(options, request);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  CommandLine line;
-  CLI::App app{"Velmora from the command line"};
-  app.name("velmora-cli");
-  app.require_subcommand(1);
-  app.fallthrough();
-  app.add_option("--home", line.home, "The application folder")->type_name("DIR");
-  app.add_option("--fs", line.simulator, "Database of this simulator")->check(CLI::IsMember({"2004", "X"}));
-  app.add_flag("--json", line.json, "One JSON document on standard output");
-  app.set_version_flag("--version", "Velmora 8.6");
+void AddCommands(CLI::App& app, CommandLine& line) {
   app.add_subcommand("info", "What the database holds");
   app.add_subcommand("find", "Everything with an ident")
       ->add_option("IDENT", line.ident, "Ident")
@@ -84,10 +74,23 @@ int main(int argc, char** argv) {
       ->expected(4)
       ->required();
   app.add_subcommand("aircraft", "The aircraft file");
-  const CLI::App* plan = AddPlanCommand(app, line);
 #ifdef VELMORA_HAS_DRAW
   AddDrawCommand(app, line.draw);
 #endif
+}
+
+int ParseAndRun(int argc, char** argv) {
+  CommandLine line;
+  CLI::App app{"Velmora from the command line"};
+  app.name("velmora-cli");
+  app.require_subcommand(1);
+  app.fallthrough();
+  app.add_option("--home", line.home, "The application folder")->type_name("DIR");
+  app.add_option("--fs", line.simulator, "Database of this simulator")->check(CLI::IsMember({"2004", "X"}));
+  app.add_flag("--json", line.json, "One JSON document on standard output");
+  app.set_version_flag("--version", "Velmora 8.6");
+  AddCommands(app, line);
+  const CLI::App* plan = AddPlanCommand(app, line);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -96,9 +99,18 @@ int main(int argc, char** argv) {
               << "\nUsage: velmora-cli [--home DIR] [--fs 2004|X] COMMAND [ARGUMENTS] [--json]\n";
     return exitWrongUsage;
   }
+  return RunCommand(line, app, *plan);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   try {
-    return RunCommand(line, app, *plan);
+    return ParseAndRun(argc, argv);
   } catch (const std::exception& error) {
-    return Fail(error.what());
+    std::fprintf(stderr, "velmora-cli: %s\n", error.what());
+  } catch (...) {
+    std::fputs("velmora-cli: unknown error\n", stderr);
   }
+  return exitNotDone;
 }

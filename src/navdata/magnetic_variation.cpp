@@ -14,7 +14,7 @@ MagneticVariationGrid MagneticVariationGrid::FromBytes(std::span<const std::byte
 float MagneticVariationGrid::AtWholeDegrees(int lat, int lon) const {
   if (lon < 0) lon += 360;
   if (lat < -90 || lat > 90 || lon < 0 || lon >= magneticGridColumns) return 0;
-  const auto cell = static_cast<std::size_t>(magneticGridRows * lon + (lat + 90));
+  const auto cell = static_cast<std::size_t>(lon) * magneticGridRows + static_cast<std::size_t>(lat + 90);
   if (cell >= cells.size()) return 0;
   return static_cast<float>(cells[cell] / magneticUnitsPerDegree);
 }

@@ -83,10 +83,10 @@ std::string GetRwyName(std::string_view code) {
 }
 
 void BuildIndexes(NavDatabase& database) {
-  const auto scanned = static_cast<std::size_t>(database.lngAirports + 1);
+  const auto scanned = static_cast<std::size_t>(database.lngAirports) + 1;
   const auto real = static_cast<std::size_t>(database.AirportCount());
   const auto nodes =
-      std::min(static_cast<std::size_t>(database.lngIntersections + 1), database.intersections.size());
+      std::min(static_cast<std::size_t>(database.lngIntersections) + 1, database.intersections.size());
   database.airportsByIdent = IndexIdents(database.airports, std::min(scanned, database.airports.size()));
   database.intersectionsByIdent = IndexIdents(database.intersections, nodes);
   database.fixesByIdent = IndexIdents(database.fixes, database.fixes.size());
