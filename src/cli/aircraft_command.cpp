@@ -29,7 +29,7 @@ Json ToJson(const AircraftRec& aircraft) {
 int RunAircraft(const CliOptions& options) {
   const AircraftFile file = ReadAircraftFile(options.home.Resolve(aircraftFileName));
   for (const std::string& problem : file.problems)
-    std::fprintf(stderr, "velmora-cli: aircraft.vlm: %s\n", problem.c_str());
+    std::fprintf(stderr, "velmora-cli: %s\n", problem.c_str());
   if (options.json) {
     Json list = Json::array();
     for (const AircraftRec& aircraft : file.aircraft)

@@ -167,7 +167,7 @@ AircraftFile ReadAircraftFile(const std::filesystem::path& path) {
   if (!bytes) return {{}, {path.string() + ": " + reason}};
   AircraftFile file = ParseAircraft(bytes->Text());
   for (std::string& problem : file.problems)
-    problem = path.string() + ", " + problem;
+    problem.insert(0, path.string() + ", ");
   return file;
 }
 
