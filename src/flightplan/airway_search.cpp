@@ -16,10 +16,11 @@ std::int32_t ParseAltitude(std::string_view text) {
 // The circle around a position in which a search may end.
 class AirwaySearch::Circle {
  public:
-  Circle(const NavDatabase& database, const AirwayGraph& graph, float lat, float lon, float radius,
-         std::vector<float>& toGo)
+  Circle(const NavDatabase& database, const AirwayGraph& graph, const AirwayLandmarks& landmarks, float lat,
+         float lon, float radius, std::vector<float>& toGo)
       : database(database),
         graph(graph),
+        landmarks(landmarks),
         lat(lat),
         lon(lon),
         radius(radius),
@@ -27,6 +28,11 @@ class AirwaySearch::Circle {
         nearest(static_cast<float>(radius < 0.0f ? 2.0 : std::cos(RadiusWithMargin()) - 1e-6)),
         toGo(toGo) {
     toGo.assign(static_cast<std::size_t>(graph.VertexCount()), -1.0f);
+    std::vector<int> inside;
+    for (int vertex = 0; vertex < graph.VertexCount(); ++vertex) {
+      if (Contains(vertex)) inside.push_back(vertex);
+    }
+    goal = landmarks.GoalOf(inside);
   }
 
   // The scalar product rules out far vertices cheaply; whatever may lie within
@@ -38,14 +44,15 @@ class AirwaySearch::Circle {
     return GreatCircleDistance(at.sngLat, at.sngLon, lat, lon) <= radius;
   }
 
-  // No way from the vertex into the circle is shorter than this (NM). The
-  // margin of 2 NM covers the arc cosine of a 32-bit product.
+  // No way from the vertex into the circle is shorter than this (NM), infinite
+  // if there is none. The margin of 2 NM covers the arc cosine of a 32-bit product.
   float ToGo(int vertex) const {
     float& known = toGo[static_cast<std::size_t>(vertex)];
     if (known < 0.0f) {
       const float arc = std::acos(std::clamp(CosineTo(vertex), -1.0f, 1.0f));
       const double distance = RadToDeg(arc) * 60.0 - 2.0 - radius;
-      known = distance > 0.0 ? static_cast<float>(distance * graph.ShortestLinkRatio()) : 0.0f;
+      known =
+          std::max(static_cast<float>(distance * graph.ShortestLinkRatio()), landmarks.ToGo(vertex, goal));
     }
     return known;
   }
@@ -59,6 +66,8 @@ class AirwaySearch::Circle {
 
   const NavDatabase& database;
   const AirwayGraph& graph;
+  const AirwayLandmarks& landmarks;
+  AirwayLandmarks::Goal goal;
   float lat, lon, radius;
   AirwayGraph::Direction middle;
   float nearest;
@@ -68,7 +77,8 @@ class AirwaySearch::Circle {
 int AirwaySearch::ShortestPathToPosition(int startNode, char level, float destLat, float destLon,
                                          float radius) {
   const AirwayGraph& network = UseNetwork(level);
-  const Circle circle(database, network, destLat, destLon, radius, toGo);
+  const AirwayLandmarks& landmarks = level == 'V' ? *lowLandmarks : *highLandmarks;
+  const Circle circle(database, network, landmarks, destLat, destLon, radius, toGo);
 
   // Leans towards the goal by a fifth more than the way to go, and never comes
   // back to a settled vertex: quick, and not always shortest.
@@ -80,7 +90,9 @@ int AirwaySearch::ShortestPathToPosition(int startNode, char level, float destLa
       return circle.Contains(vertex);
     }
     float Key(int vertex, float cost) const { return cost + 1.2f * circle.ToGo(vertex); }
-    bool Keep(int vertex, float) const { return settled[static_cast<std::size_t>(vertex)] == 0; }
+    bool Keep(int vertex, float) const {
+      return settled[static_cast<std::size_t>(vertex)] == 0 && std::isfinite(circle.ToGo(vertex));
+    }
   };
   settled.assign(static_cast<std::size_t>(network.VertexCount()), 0);
   const int someEnd = Search(startNode, Hurry{circle, settled});
@@ -109,7 +121,10 @@ int AirwaySearch::ShortestPathToNode(int startNode, char level, int endNode) {
 
 const AirwayGraph& AirwaySearch::UseNetwork(char level) {
   std::optional<AirwayGraph>& network = level == 'V' ? low : high;
-  if (!network) network.emplace(database, level);
+  if (!network) {
+    network.emplace(database, level);
+    (level == 'V' ? lowLandmarks : highLandmarks).emplace(*network);
+  }
   graph = &*network;
   return *graph;
 }

@@ -6,8 +6,8 @@
 //
 // A search towards a position runs twice. The first run hurries towards the
 // goal (A*, P. Hart, N. Nilsson, B. Raphael, 1968, with weighted distances) and
-// gives a cost that the way need not exceed; the second is Dijkstra's, and passes over every vertex
-// from which the goal cannot be reached at that cost. Those are on no shortest
+// gives a cost that the way need not exceed; the second is Dijkstra's, and
+// passes over every vertex from which the goal cannot be reached at that cost. Those are on no shortest
 // way, so the result is that of the whole search.
 #pragma once
 
@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "flightplan/airway_graph.h"
+#include "flightplan/airway_landmarks.h"
 #include "navdata/nav_database.h"
 
 // An altitude text of a link in feet: "FL" and hundreds of feet, else feet.
@@ -89,6 +90,7 @@ class AirwaySearch {
 
   const NavDatabase& database;
   std::optional<AirwayGraph> low, high;
+  std::optional<AirwayLandmarks> lowLandmarks, highLandmarks;
   const AirwayGraph* graph = nullptr;  // of the last search
   std::vector<VertexState> states;
   std::vector<HeapEntry> heap;  // entry 0 is the top
