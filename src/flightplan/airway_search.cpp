@@ -29,8 +29,9 @@ class AirwaySearch::Circle {
         toGo(toGo) {
     toGo.assign(static_cast<std::size_t>(graph.VertexCount()), -1.0f);
     std::vector<int> inside;
-    for (int vertex = 0; vertex < graph.VertexCount(); ++vertex) {
-      if (Contains(vertex)) inside.push_back(vertex);
+    for (const std::int32_t node : database.intersectionsByPlace.Near({lat, lon}, radius)) {
+      const int vertex = graph.VertexOf(node);
+      if (vertex >= 0 && Contains(vertex)) inside.push_back(vertex);
     }
     goal = landmarks.GoalOf(inside);
   }

@@ -40,8 +40,8 @@ class AirwaySearch {
     std::int32_t SearchMaxAlt = 0;
   };
 
-  // The database must outlive the search and stay as it is from the first
-  // search on: each network is laid out when it is first asked for.
+  // The database must have its indexes, outlive the search and stay as it is
+  // from the first search on: each network is laid out when it is first asked for.
   explicit AirwaySearch(const NavDatabase& database) : database(database) {}
 
   // The first settled node at most radius NM from the position; the start node
