@@ -1,6 +1,5 @@
 #include <iostream>
 
-#include "base/numbers.h"
 #include "cli/commands.h"
 #include "navdata/lookup_names.h"
 
