@@ -51,7 +51,8 @@ void DrawAt(benchmark::State& state, float lat, float lon, int row) {
   StartQt();
   const NavDatabase& database = BenchWorld();
   const auto layers = InDrawingOrder(DatabaseLayers());
-  const ColorSettings colors;
+  const Settings settings;
+  modDeclutter labels;
   const MapSwitches switches;
   MapView view = MapView::At(lat, lon, row);
   QImage image(pictureWidth, pictureHeight, QImage::Format_RGB32);
@@ -61,7 +62,7 @@ void DrawAt(benchmark::State& state, float lat, float lon, int row) {
     const auto start = std::chrono::steady_clock::now();
     {
       QtDrawSurface surface(image);
-      DrawMap(view, database, colors, switches, layers, surface);
+      DrawMap({view, labels, database, settings, switches, {}}, layers, surface);
     }
     drawing += std::chrono::steady_clock::now() - start;
     state.PauseTiming();

@@ -161,11 +161,17 @@ int RunDraw(const CliOptions& options, const DrawRequest& request) {
   const QGuiApplication application(argc, argv);
   MapView view =
       MapView::At(static_cast<float>(request.centerLat), static_cast<float>(request.centerLon), row);
+  modDeclutter labels;
+  MapSwitches switches;
+  for (const MapLayer& layer : layers)
+    for (bool MapSwitches::*flag :
+         request.layers.empty() ? std::vector<bool MapSwitches::*>() : layer.switches)
+      switches.*flag = true;
   QImage image(request.width, request.height, QImage::Format_RGB32);
   const auto start = std::chrono::steady_clock::now();
   {
     QtDrawSurface surface(image);
-    DrawMap(view, world->database, settings.colors, MapSwitches(), layers, surface);
+    DrawMap({view, labels, world->database, settings, switches, {}}, layers, surface);
   }
   const std::chrono::duration<double, std::milli> drawTime = std::chrono::steady_clock::now() - start;
   std::string reason;

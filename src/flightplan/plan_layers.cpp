@@ -99,7 +99,6 @@ void DrawPlanWaypoints(const MapPaint& paint, const FlightPlan& plan) {
   if (paint.view.RangeNM() > labelRange) return;
   std::stable_partition(labels.begin(), labels.end(),
                         [](const Label& label) { return IsAirport(*label.row); });
-  LabelPlacer ownLabels(paint.surface);
   paint.surface.ForeColor = paint.colors.TAXINAME;
   for (const Label& label : labels) {
     paint.surface.FontBold = IsAirport(*label.row);
@@ -108,8 +107,7 @@ void DrawPlanWaypoints(const MapPaint& paint, const FlightPlan& plan) {
     const auto x =
         static_cast<float>(paint.projection.LonToX(label.row->Lon)) - paint.surface.TextWidth(text) / 2;
     const auto y = static_cast<float>(paint.projection.LatToY(label.row->Lat)) + label.below;
-    const auto place = ownLabels.PlaceLabel(x, y, text, LabelKind::fix);
-    if (place) PrintPlate(paint, *place, text);
+    PrintPlate(paint, {x, y}, text);
   }
 }
 

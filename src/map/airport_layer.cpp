@@ -6,7 +6,6 @@
 
 #include "base/code_page.h"
 #include "base/numbers.h"
-#include "map/clsNavaid.h"
 
 namespace {
 
@@ -170,26 +169,17 @@ void PrintLabels(const MapPaint& paint, std::vector<ShownAirport> shown) {
     const float height = surface.TextHeight(label.first);
     const float left = one.x - surface.TextWidth(label.first) / 2;
     const auto place = paint.labels.PlaceLabel(left, one.y + 50, label.first, LabelKind::airport);
-    if (!place) continue;
-    surface.CurrentX = place->x;
-    surface.CurrentY = place->y;
+    surface.CurrentX = place.x;
+    surface.CurrentY = place.y;
     surface.Print(label.first);
     if (label.second.empty()) continue;
     surface.FontBold = false;
     surface.FontSize = 8;
-    surface.CurrentX = place->x + (one.x - left) - surface.TextWidth(label.second) / 2;
-    surface.CurrentY = place->y + height;
-    if (paint.labels.ClaimPlace(surface.CurrentX, surface.CurrentY, label.second))
-      surface.Print(label.second);
+    surface.CurrentX = place.x + (one.x - left) - surface.TextWidth(label.second) / 2;
+    surface.CurrentY = place.y + height;
+    surface.Print(label.second);
   }
   surface.FontBold = false;
-}
-
-void DrawAirports(const MapPaint& paint) {
-  const std::vector<ShownAirport> shown = ShownAirports(paint);
-  DrawGround(paint, shown);
-  DrawSymbols(paint, shown);
-  PrintLabels(paint, shown);
 }
 
 }  // namespace
@@ -201,7 +191,9 @@ AirportLabel LabelOf(const AirportRec& airport, const MapSwitches& switches, std
           switches.btnName && rangeNM <= nameRange ? name : std::string()};
 }
 
-MapLayer AirportLayer() {
-  return {LayerPlace::airports, "airports", [](const MapPaint& paint) { return paint.switches.mnuAirport; },
-          DrawAirports};
+void DrawAirports(const MapPaint& paint) {
+  const std::vector<ShownAirport> shown = ShownAirports(paint);
+  DrawGround(paint, shown);
+  DrawSymbols(paint, shown);
+  PrintLabels(paint, shown);
 }

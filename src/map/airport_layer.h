@@ -4,7 +4,7 @@
 
 #include "map/map_layer.h"
 
-MapLayer AirportLayer();
+void DrawAirports(const MapPaint& paint);
 
 // The text of an airport's label; second is the line below it. Both may be empty.
 struct AirportLabel {

@@ -1,6 +1,7 @@
 #include "map/airway_layer.h"
 
 #include <array>
+#include <optional>
 
 #include "base/code_page.h"
 #include "map/geo_line.h"
@@ -45,9 +46,8 @@ void PrintLabel(const MapPaint& paint, const AirwaySegmentRec& segment, const Su
   const float height = surface.TextHeight(texts.front());
   const auto place = paint.labels.PlaceLabel(x - surface.TextWidth(texts.front()) / 2, y - height / 2,
                                              texts.front(), LabelKind::airway);
-  if (!place) return;
-  const float middle = place->x + surface.TextWidth(texts.front()) / 2;
-  surface.CurrentY = place->y;
+  const float middle = place.x + surface.TextWidth(texts.front()) / 2;
+  surface.CurrentY = place.y;
   for (const std::string& text : texts) {
     surface.CurrentX = middle - surface.TextWidth(text) / 2;
     surface.Print(text);
@@ -55,9 +55,10 @@ void PrintLabel(const MapPaint& paint, const AirwaySegmentRec& segment, const Su
   }
 }
 
-void DrawAirways(const MapPaint& paint, const std::vector<AirwaySegmentRec>& segments, std::int32_t color) {
+void DrawAirways(const MapPaint& paint, const std::vector<AirwaySegmentRec>& segments,
+                 const PlaceIndex& byEnds, std::int32_t color) {
   DrawSurface& surface = paint.surface;
-  const auto shown = SegmentsInView(paint.view, paint.database, segments);
+  const auto shown = SegmentsInView(paint.view, paint.database, segments, byEnds);
   std::vector<SurfaceLine> lines;
   lines.reserve(shown.size());
   for (const AirwaySegmentRec* segment : shown)
@@ -83,32 +84,28 @@ void DrawAirways(const MapPaint& paint, const std::vector<AirwaySegmentRec>& seg
 }  // namespace
 
 std::vector<const AirwaySegmentRec*> SegmentsInView(const MapView& view, const NavDatabase& database,
-                                                    const std::vector<AirwaySegmentRec>& segments) {
-  std::vector<bool> inView(database.intersections.size());
-  for (const std::int32_t row : database.intersectionsByPlace.Near(view.SearchBox(navaidMargin))) {
-    const Position place = PlaceOf(database, row);
-    inView[static_cast<std::size_t>(row)] = view.InView(place.lat, place.lon, navaidMargin);
-  }
-  const auto known = [&](std::int32_t row) {
-    return row >= 0 && static_cast<std::size_t>(row) < inView.size();
+                                                    const std::vector<AirwaySegmentRec>& segments,
+                                                    const PlaceIndex& byEnds) {
+  const auto inView = [&](std::int32_t intersection) {
+    if (intersection < 0 || static_cast<std::size_t>(intersection) >= database.intersections.size())
+      return std::optional<bool>();
+    const Position place = PlaceOf(database, intersection);
+    return std::optional<bool>(view.InView(place.lat, place.lon, navaidMargin));
   };
   std::vector<const AirwaySegmentRec*> shown;
-  for (const AirwaySegmentRec& segment : segments) {
-    if (!known(segment.lngFrom) || !known(segment.lngTo)) continue;
-    const bool near =
-        inView[static_cast<std::size_t>(segment.lngFrom)] || inView[static_cast<std::size_t>(segment.lngTo)];
-    if (near) shown.push_back(&segment);
+  for (const std::int32_t row : byEnds.Near(view.SearchBox(navaidMargin))) {
+    const AirwaySegmentRec& segment = segments[static_cast<std::size_t>(row)];
+    const auto from = inView(segment.lngFrom);
+    const auto to = inView(segment.lngTo);
+    if (from && to && (*from || *to)) shown.push_back(&segment);
   }
   return shown;
 }
 
-MapLayer JetAirwayLayer() {
-  return {LayerPlace::jetAirways, "jet", [](const MapPaint& paint) { return paint.switches.mnuJet; },
-          [](const MapPaint& paint) { DrawAirways(paint, paint.database.jetAirways, paint.colors.JET); }};
+void DrawJetAirways(const MapPaint& paint) {
+  DrawAirways(paint, paint.database.jetAirways, paint.database.jetAirwaysByEnds, paint.colors.JET);
 }
 
-MapLayer VictorAirwayLayer() {
-  return {
-      LayerPlace::victorAirways, "victor", [](const MapPaint& paint) { return paint.switches.mnuVictor; },
-      [](const MapPaint& paint) { DrawAirways(paint, paint.database.victorAirways, paint.colors.VICTOR); }};
+void DrawVictorAirways(const MapPaint& paint) {
+  DrawAirways(paint, paint.database.victorAirways, paint.database.victorAirwaysByEnds, paint.colors.VICTOR);
 }

@@ -3,11 +3,12 @@
 
 #include "map/map_layer.h"
 
-MapLayer JetAirwayLayer();
-MapLayer VictorAirwayLayer();
+void DrawJetAirways(const MapPaint& paint);
+void DrawVictorAirways(const MapPaint& paint);
 
 // The segments with at least one end in the visibility box grown by the
 // navaids' margin, in table order. Segments that name a row outside the
 // intersection table are left out.
 std::vector<const AirwaySegmentRec*> SegmentsInView(const MapView& view, const NavDatabase& database,
-                                                    const std::vector<AirwaySegmentRec>& segments);
+                                                    const std::vector<AirwaySegmentRec>& segments,
+                                                    const PlaceIndex& byEnds);

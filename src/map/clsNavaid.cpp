@@ -99,20 +99,3 @@ void clsNavaid::DrawAsNDB() {
     objTarget->Circle(sngCenterX, sngCenterY, static_cast<float>(intRadius) / part, lngColor);
   objTarget->PSet(sngCenterX, sngCenterY, lngColor);
 }
-
-std::string ReciprocalDesignator(const std::string& designator) {
-  const int number = CutToInt(Val(std::string_view(designator).substr(0, 2)));
-  if (number > 0) {
-    std::string reciprocal = std::to_string(number + 18 > 36 ? number - 18 : number + 18);
-    const char letter = designator.back();
-    if (letter == 'L') reciprocal += 'R';
-    if (letter == 'R') reciprocal += 'L';
-    if (letter == 'C') reciprocal += 'C';
-    return reciprocal;
-  }
-  constexpr std::pair<std::string_view, std::string_view> opposites[] = {
-      {"N", "S"}, {"S", "N"}, {"E", "W"}, {"W", "E"}, {"NE", "SW"}, {"SW", "NE"}, {"SE", "NW"}, {"NW", "SE"}};
-  for (const auto& [word, opposite] : opposites)
-    if (designator == word) return std::string(opposite);
-  return {};
-}

@@ -40,8 +40,3 @@ class clsNavaid {
   bool BeyondSymbolRange() const;
   void DrawPoint();
 };
-
-// The ident of a runway's other end: "09L" gives "27R", "36" gives "18", the
-// compass words "N", "NE" and so on their opposites. The number is written
-// without a leading zero; anything else comes back empty.
-std::string ReciprocalDesignator(const std::string& designator);

@@ -8,13 +8,18 @@ std::vector<MapLayer> InDrawingOrder(std::vector<MapLayer> layers) {
   return layers;
 }
 
-void DrawMap(MapView& view, const NavDatabase& database, const ColorSettings& colors,
-             const MapSwitches& switches, const std::vector<MapLayer>& layers, DrawSurface& surface) {
-  LabelPlacer labels(surface);
-  view.UpdateVisibilityBox();
+void DrawMap(const MapScene& scene, const std::vector<MapLayer>& layers, DrawSurface& surface) {
+  scene.labels.InitDeclutterGrid(surface);
+  scene.view.UpdateVisibilityBox();
   surface.ResetStyle();
-  surface.Clear(colors.MAP);
-  const MapPaint paint{surface, view, view.CurrentProjection(), database, colors, switches, labels};
+  surface.Clear(scene.settings.colors.MAP);
+  clsNavaid navaid;
+  navaid.objTarget = &surface;
+  navaid.rangeNM = scene.view.RangeNM();
+  const MapPaint paint{surface,        scene.view,      scene.view.CurrentProjection(),
+                       scene.database, scene.settings,  scene.settings.colors,
+                       scene.switches, scene.selection, scene.labels,
+                       navaid};
   for (const MapLayer& layer : layers) {
     if (!layer.shown(paint)) continue;
     surface.ResetStyle();

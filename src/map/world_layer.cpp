@@ -102,6 +102,8 @@ void ForEachAppearance(const MapPaint& paint, const WorldShapes& world, const Wo
   }
 }
 
+}  // namespace
+
 void DrawWorld(const MapPaint& paint) {
   DrawSurface& surface = paint.surface;
   const ClipRect page{-clipMargin, -clipMargin, surface.ScaleWidth() + clipMargin,
@@ -128,11 +130,4 @@ void DrawWorld(const MapPaint& paint) {
     ForEachAppearance(paint, database.worldPolygons, shape, page,
                       [&](auto places, auto points) { DrawOutline(surface, places, points, page, coast); });
   }
-}
-
-}  // namespace
-
-MapLayer WorldLayer() {
-  return {LayerPlace::worldShapes, "coastlines",
-          [](const MapPaint& paint) { return paint.switches.mnuCoastlines; }, DrawWorld};
 }

@@ -3,4 +3,4 @@
 
 #include "map/map_layer.h"
 
-MapLayer WorldLayer();
+void DrawWorld(const MapPaint& paint);

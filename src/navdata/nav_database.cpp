@@ -1,6 +1,7 @@
 #include "navdata/nav_database.h"
 
 #include <array>
+#include <limits>
 
 #include "base/numbers.h"
 
@@ -24,6 +25,57 @@ PlaceIndex IndexPlaces(const std::vector<Row>& rows, std::size_t count,
   for (std::size_t row = 0; row < count; ++row)
     places.push_back({rows[row].sngLat, rows[row].sngLon});
   return PlaceIndex::Build(places, skip);
+}
+
+// A segment that names a row outside the intersection table is at no place.
+PlaceIndex IndexSegments(const std::vector<AirwaySegmentRec>& segments,
+                         const std::vector<IntersectionRec>& intersections) {
+  constexpr float nowhere = std::numeric_limits<float>::quiet_NaN();
+  const auto known = [&](std::int32_t row) {
+    return row >= 0 && static_cast<std::size_t>(row) < intersections.size();
+  };
+  std::vector<Position> ends;
+  ends.reserve(2 * segments.size());
+  for (const AirwaySegmentRec& segment : segments) {
+    const bool whole = known(segment.lngFrom) && known(segment.lngTo);
+    for (const std::int32_t end : {segment.lngFrom, segment.lngTo}) {
+      if (!whole) {
+        ends.push_back({nowhere, nowhere});
+        continue;
+      }
+      const IntersectionRec& row = intersections[static_cast<std::size_t>(end)];
+      ends.push_back({row.sngLat, row.sngLon});
+    }
+  }
+  return PlaceIndex::BuildForEnds(ends);
+}
+
+PlaceIndex IndexTaxiways(const std::vector<TaxiRec>& taxiways) {
+  std::vector<Position> ends;
+  ends.reserve(2 * taxiways.size());
+  for (const TaxiRec& taxiway : taxiways) {
+    ends.push_back({taxiway.sngLat1, taxiway.sngLon1});
+    ends.push_back({taxiway.sngLat2, taxiway.sngLon2});
+  }
+  return PlaceIndex::BuildForEnds(ends);
+}
+
+// Points before the first "M" belong to no shape.
+std::vector<GroundShape> ShapesOf(const std::vector<PolygonRec>& polygons) {
+  std::vector<GroundShape> shapes;
+  for (std::uint32_t row = 0; row < polygons.size(); ++row) {
+    if (polygons[row].strFlag.characters[0] == 'M') shapes.push_back({row, 0});
+    if (!shapes.empty()) ++shapes.back().rowCount;
+  }
+  return shapes;
+}
+
+PlaceIndex IndexShapes(const std::vector<GroundShape>& shapes, const std::vector<PolygonRec>& polygons) {
+  std::vector<Position> places;
+  places.reserve(shapes.size());
+  for (const GroundShape& shape : shapes)
+    places.push_back({polygons[shape.firstRow].sngLat, polygons[shape.firstRow].sngLon});
+  return PlaceIndex::Build(places);
 }
 
 }  // namespace
@@ -102,4 +154,11 @@ void BuildIndexes(NavDatabase& database) {
   database.fixesByPlace = IndexPlaces(database.fixes, database.fixes.size());
   database.vorsByPlace = IndexPlaces(database.vors, database.vors.size());
   database.ndbsByPlace = IndexPlaces(database.ndbs, database.ndbs.size());
+  database.pendingIlsByPlace = IndexPlaces(database.pendingIls, database.pendingIls.size());
+  database.userWaypointsByPlace = IndexPlaces(database.userWaypoints, database.userWaypoints.size());
+  database.victorAirwaysByEnds = IndexSegments(database.victorAirways, database.intersections);
+  database.jetAirwaysByEnds = IndexSegments(database.jetAirways, database.intersections);
+  database.taxiwaysByEnds = IndexTaxiways(database.taxiways);
+  database.groundShapes = ShapesOf(database.polygons);
+  database.groundShapesByPlace = IndexShapes(database.groundShapes, database.polygons);
 }

@@ -13,6 +13,12 @@
 #include "navdata/place_index.h"
 #include "navdata/tables.h"
 
+// One shape of the ground polygons: the rows from an "M" to before the next.
+struct GroundShape {
+  std::uint32_t firstRow = 0;
+  std::uint32_t rowCount = 0;
+};
+
 struct NavDatabase {
   // "AFIL" counts as an airport; the two "ZZZZ" rows behind it do not.
   static constexpr std::int32_t surplusAirportRows = 2;
@@ -71,6 +77,13 @@ struct NavDatabase {
   PlaceIndex fixesByPlace;
   PlaceIndex vorsByPlace;
   PlaceIndex ndbsByPlace;
+  PlaceIndex pendingIlsByPlace;
+  PlaceIndex userWaypointsByPlace;
+  PlaceIndex victorAirwaysByEnds;  // segments that name two rows of the intersection table
+  PlaceIndex jetAirwaysByEnds;
+  PlaceIndex taxiwaysByEnds;
+  std::vector<GroundShape> groundShapes;  // over polygons, in file order
+  PlaceIndex groundShapesByPlace;         // by their first points
 
   std::span<const RunwayRec> Runways(const AirportRec& airport) const;
   std::span<const FrequencyRec> Frequencies(const AirportRec& airport) const;

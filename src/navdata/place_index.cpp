@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -45,7 +46,21 @@ PlaceIndex PlaceIndex::Build(const std::vector<Position>& positions, const std::
   return index;
 }
 
+PlaceIndex PlaceIndex::BuildForEnds(const std::vector<Position>& places) {
+  PlaceIndex index = Build(places);
+  index.placesPerRow = 2;
+  return index;
+}
+
+PlaceIndex PlaceIndex::WholeTable(std::size_t rowCount) {
+  PlaceIndex index;
+  index.rows.resize(rowCount);
+  std::iota(index.rows.begin(), index.rows.end(), 0);
+  return index;
+}
+
 std::vector<std::int32_t> PlaceIndex::Near(const GeoBox& box) const {
+  if (cellStart.empty()) return rows;
   std::vector<std::int32_t> found;
   if (rows.empty() || !(box.north >= box.south)) return found;
   const auto addColumns = [&](int cellRow, int first, int last) {
@@ -69,7 +84,12 @@ std::vector<std::int32_t> PlaceIndex::Near(const GeoBox& box) const {
       addColumns(row, west, cellColumns - 1);
     }
   }
+  if (placesPerRow > 1) {
+    for (std::int32_t& place : found)
+      place /= placesPerRow;
+  }
   std::sort(found.begin(), found.end());
+  if (placesPerRow > 1) found.erase(std::unique(found.begin(), found.end()), found.end());
   return found;
 }
 

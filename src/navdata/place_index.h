@@ -26,6 +26,14 @@ class PlaceIndex {
   // and longitudes beyond 180 are kept in the outermost cells.
   static PlaceIndex Build(const std::vector<Position>& positions, const std::vector<bool>* skip = nullptr);
 
+  // Rows that have two places (the ends of a line) are found by either; places
+  // holds two for each row, one behind the other.
+  static PlaceIndex BuildForEnds(const std::vector<Position>& places);
+
+  // Answers every question with all of so many rows, as a walk over the table
+  // would look at them: to hold the index against.
+  static PlaceIndex WholeTable(std::size_t rowCount);
+
   // Rows whose cell touches the box, ascending: every row inside the box and
   // some near it. The caller tests the exact condition.
   std::vector<std::int32_t> Near(const GeoBox& box) const;
@@ -36,4 +44,5 @@ class PlaceIndex {
  private:
   std::vector<std::uint32_t> cellStart;  // 180 x 360 cells + 1
   std::vector<std::int32_t> rows;        // by cell, ascending within one
+  int placesPerRow = 1;
 };

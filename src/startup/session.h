@@ -8,7 +8,10 @@
 #include "base/app_folder.h"
 #include "flightplan/aircraft.h"
 #include "flightplan/flight_plan.h"
+#include "map/map_selection.h"
+#include "map/map_switches.h"
 #include "map/map_view.h"
+#include "map/modDeclutter.h"
 #include "navdata/nav_database.h"
 #include "settings/logs.h"
 #include "settings/settings.h"
@@ -24,6 +27,9 @@ struct Session {
   AircraftRec aircraft;  // the current one
   FlightPlan plan;
   MapView view;
+  MapSwitches switches;
+  MapSelection selection;
+  modDeclutter declutter;
   ProtocolLog protocol;
 
   std::string strFSPath;      // root folder of the simulator in use, empty if unknown

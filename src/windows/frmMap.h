@@ -76,7 +76,6 @@ class frmMap : public QMainWindow {
   MessageBox& messages;
   PointerShape& pointer;
   AirwaySearch search;
-  MapSwitches switches;
   std::vector<MapLayer> layers;
 
   MapCanvas* Map;

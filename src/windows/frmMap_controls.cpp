@@ -26,9 +26,9 @@ QAction* frmMap::AddSwitch(const QString& menuName, const QString& text, bool Ma
   auto* action = new QAction(text, this);
   action->setObjectName(menuName);
   action->setCheckable(true);
-  action->setChecked(switches.*flag);
+  action->setChecked(session.switches.*flag);
   connect(action, &QAction::toggled, this, [this, flag](bool on) {
-    switches.*flag = on;
+    session.switches.*flag = on;
     DrawMap();
   });
   actions[menuName] = action;
@@ -179,7 +179,9 @@ void frmMap::BuildKeys() {
 void frmMap::ConnectCanvas() {
   Map->drawPicture = [this](DrawSurface& surface) {
     Trapped("frmMap DrawMap (", [&] {
-      ::DrawMap(session.view, session.database, session.settings.colors, switches, layers, surface);
+      ::DrawMap({session.view, session.declutter, session.database, session.settings, session.switches,
+                 session.selection},
+                layers, surface);
     });
   };
   Map->wheelZooms = session.settings.MZOOM == 1;

@@ -30,7 +30,8 @@ FlightPlan PlanBetween(Position from, Position to) {
 RecordingSurface Painted(const FlightPlan& plan, MapView view) {
   RecordingSurface surface;
   const NavDatabase database;
-  DrawMap(view, database, ColorSettings(), MapSwitches(), InDrawingOrder(PlanLayers(plan)), surface);
+  modDeclutter labels;
+  DrawMap({view, labels, database, Settings(), MapSwitches(), {}}, InDrawingOrder(PlanLayers(plan)), surface);
   return surface;
 }
 

@@ -69,7 +69,8 @@ struct Painted {
   Painted(int row, const MapSwitches& switches = {}, Position centre = {50, 8.5F}) {
     const NavDatabase database = SmallWorld();
     MapView view = MapView::At(centre.lat, centre.lon, row);
-    DrawMap(view, database, colors, switches, InDrawingOrder(DatabaseLayers()), surface);
+    modDeclutter labels;
+    DrawMap({view, labels, database, Settings(), switches, {}}, InDrawingOrder(DatabaseLayers()), surface);
   }
   bool Has(const std::string& text) const {
     const auto texts = surface.Texts();
@@ -151,7 +152,7 @@ TEST(Airways, AreDrawnWithOneEndInView) {
   const NavDatabase database = SmallWorld();
   MapView view = MapView::At(50, 8.5F, 9);
   view.UpdateVisibilityBox();
-  const auto shown = SegmentsInView(view, database, database.victorAirways);
+  const auto shown = SegmentsInView(view, database, database.victorAirways, database.victorAirwaysByEnds);
   std::vector<std::string> names;
   for (const AirwaySegmentRec* segment : shown)
     names.push_back(segment->strName.Text());
@@ -212,7 +213,8 @@ RecordingSurface PaintWorld(const NavDatabase& database, Position centre, int ro
   RecordingSurface surface;
   MapView view = MapView::At(centre.lat, centre.lon, row);
   const ColorSettings colors;
-  DrawMap(view, database, colors, MapSwitches(), InDrawingOrder(DatabaseLayers()), surface);
+  modDeclutter labels;
+  DrawMap({view, labels, database, Settings(), MapSwitches(), {}}, InDrawingOrder(DatabaseLayers()), surface);
   return surface;
 }
 

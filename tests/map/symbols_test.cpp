@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "map/clsNavaid.h"
+#include "map/modDeclutter.h"
 #include "tests/map/recording_surface.h"
 
 namespace {
