@@ -32,6 +32,8 @@ float Share(float from, float side, int i) {
   return std::max(0.0F, high - low);
 }
 
+constexpr double thinStroke = 1.25;  // pixels
+
 }  // namespace
 
 PixelGrid::PixelGrid(QImage& image)
@@ -63,8 +65,8 @@ bool CutLine(QPointF& from, QPointF& to, double width, double height, double mar
   return true;
 }
 
-void BlendLine(const PixelGrid& grid, QPointF from, QPointF to, QRgb color, float opacity) {
-  if (!CutLine(from, to, grid.width, grid.height, 2)) return;
+void BlendLine(const PixelGrid& grid, QPointF from, QPointF to, QRgb color, float opacity, double width) {
+  if (!CutLine(from, to, grid.width, grid.height, 2 + width)) return;
   // Pixel (i, j) has its middle at i + 0.5, j + 0.5.
   double x1 = from.x() - 0.5;
   double y1 = from.y() - 0.5;
@@ -82,13 +84,18 @@ void BlendLine(const PixelGrid& grid, QPointF from, QPointF to, QRgb color, floa
   const double slope = x2 > x1 ? (y2 - y1) / (x2 - x1) : 0;
   const int firstStep = static_cast<int>(std::lround(x1));
   const int lastStep = std::max(firstStep, static_cast<int>(std::lround(x2)));
-  double y = y1 + slope * (firstStep - x1);
+  // Thin lines keep one pixel across whatever their slope; wide ones their width.
+  const double across = width <= thinStroke ? 1 : width * std::sqrt(1 + slope * slope);
+  if (width < 1) opacity *= static_cast<float>(width);
+  double y = y1 + slope * (firstStep - x1) + 0.5 - across / 2;
   for (int x = firstStep; x <= lastStep; ++x, y += slope) {
-    const double whole = std::floor(y);
-    const int row = static_cast<int>(whole);
-    const auto second = static_cast<float>(y - whole);
-    BlendPixel(grid, steep ? row : x, steep ? x : row, color, opacity * (1 - second));
-    BlendPixel(grid, steep ? row + 1 : x, steep ? x : row + 1, color, opacity * second);
+    const int first = static_cast<int>(std::floor(y));
+    const int last = static_cast<int>(std::ceil(y + across)) - 1;
+    for (int row = first; row <= last; ++row) {
+      const bool whole = row > first && row < last;
+      const float share = whole ? 1 : Share(static_cast<float>(y), static_cast<float>(across), row);
+      BlendPixel(grid, steep ? row : x, steep ? x : row, color, opacity * share);
+    }
   }
 }
 
@@ -120,5 +127,19 @@ void BlendSprite(const PixelGrid& grid, const QImage& sprite, QPointF centre, fl
       if (alpha == 0) continue;
       to[column] = Mixed(to[column], qUnpremultiply(from[column]), alpha * weight / 255);
     }
+  }
+}
+
+void BlendMask(const PixelGrid& grid, const CoverageMask& mask, int x, int y, QRgb color, float opacity) {
+  const int left = x + mask.left;
+  const int top = y + mask.top;
+  const int weight = std::clamp(static_cast<int>(opacity * 256), 0, 256);
+  const int firstColumn = std::max(0, -left);
+  const int endColumn = std::min(mask.width, grid.width - left);
+  for (int row = std::max(0, -top); row < mask.height && top + row < grid.height; ++row) {
+    const std::uint8_t* from = mask.coverage.data() + static_cast<std::ptrdiff_t>(row) * mask.width;
+    QRgb* to = grid.Row(top + row) + left;
+    for (int column = firstColumn; column < endColumn; ++column)
+      if (from[column] != 0) to[column] = Mixed(to[column], color, from[column] * weight / 255);
   }
 }
