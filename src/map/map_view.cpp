@@ -50,6 +50,8 @@ MapView MapView::At(float lat, float lon, int zoomIndex) {
   MapView view;
   view.MapCenterLat = lat;
   view.MapCenterLon = lon;
+  view.AircraftLat = lat;
+  view.AircraftLon = lon;
   const bool known = zoomIndex >= 0 && zoomIndex < static_cast<int>(ZoomTable.size());
   view.ZoomIndex = known ? static_cast<std::int16_t>(zoomIndex) : defaultZoomIndex;
   view.MapScale = ZoomTable[static_cast<std::size_t>(view.ZoomIndex)].scale;
@@ -103,17 +105,24 @@ void MapView::RecentreOnBox(float x1, float y1, float x2, float y2) {
   const Projection projection = CurrentProjection();
   MapCenterLat = projection.YToLat((static_cast<double>(y1) + y2) / 2);
   MapCenterLon = projection.XToLon((static_cast<double>(x1) + x2) / 2);
+  AircraftLat = MapCenterLat;
+  AircraftLon = MapCenterLon;
   if (std::abs(y2 - y1) <= followHeight) return;
   const double degrees = std::abs(static_cast<double>(projection.YToLat(y1)) - projection.YToLat(y2));
   TakeRow(NearestZoomRow(RoundToEven(60 * degrees), ZoomIndex));
 }
 
+void MapView::CentreOnAircraft() {
+  MapCenterLat = AircraftLat;
+  MapCenterLon = AircraftLon;
+}
+
 bool MapView::RefreshMagVar(const MagneticVariationGrid& variation) {
-  const bool far = std::abs(MapCenterLat - LastMagVarLat) > 1 || std::abs(MapCenterLon - LastMagVarLon) > 1;
+  const bool far = std::abs(AircraftLat - LastMagVarLat) > 1 || std::abs(AircraftLon - LastMagVarLon) > 1;
   if (!far) return false;
-  MapMagVar = variation.MagVarLookup(MapCenterLat, MapCenterLon);
-  LastMagVarLat = MapCenterLat;
-  LastMagVarLon = MapCenterLon;
+  MapMagVar = variation.MagVarLookup(AircraftLat, AircraftLon);
+  LastMagVarLat = AircraftLat;
+  LastMagVarLon = AircraftLon;
   return true;
 }
 

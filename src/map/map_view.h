@@ -70,6 +70,11 @@ struct ZoomAnswer {
 struct MapView {
   float MapCenterLat = 0;
   float MapCenterLon = 0;
+  // The stored aircraft position: the aircraft's while a simulator is
+  // connected, else the place that was clicked last. What bearings, the
+  // position panel and the magnetic variation refer to.
+  float AircraftLat = 0;
+  float AircraftLon = 0;
   std::int32_t MapScale = ZoomTable[defaultZoomIndex].scale;
   std::int16_t ZoomIndex = defaultZoomIndex;
   bool MapReady = false;
@@ -84,7 +89,8 @@ struct MapView {
   float LastMagVarLon = 0;
   bool mnuAutozoom = false;
 
-  // The view at load: a centre and a row of the zoom table at its plain scale.
+  // The view at load: a centre, which is the stored aircraft position, and a
+  // row of the zoom table at its plain scale.
   // A row outside the table counts as the default.
   static MapView At(float lat, float lon, int zoomIndex);
 
@@ -108,13 +114,16 @@ struct MapView {
   // always refused. clearAutozoom ends the automatic zoom when the row is taken.
   ZoomAnswer SetZoom(int level, bool clearAutozoom);
 
-  // Moves the centre to the middle of a box drawn on the map (a click is a box
-  // of no size). A box more than 200 units high also brings the zoom row whose
+  // Moves the centre, and the stored aircraft position with it, to the middle of
+  // a box drawn on the map (a click is a box of no size). A box more than 200 units high also brings the zoom row whose
   // range is nearest to its height.
   void RecentreOnBox(float x1, float y1, float x2, float y2);
 
-  // Looks the variation up anew if the centre lies more than a degree of
-  // latitude or longitude from the last look-up. True if it did.
+  // Key F12: the centre takes the stored aircraft position.
+  void CentreOnAircraft();
+
+  // Looks the variation up anew if the stored aircraft position lies more than
+  // a degree of latitude or longitude from the last look-up. True if it did.
   bool RefreshMagVar(const MagneticVariationGrid& variation);
 
   // Before a repaint: limits the centre and works out the visibility box.

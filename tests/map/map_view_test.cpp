@@ -282,10 +282,12 @@ TEST(RefreshMagVar, LooksUpAfterMoreThanADegree) {
   MapView view = MapView::At(50, 10, 13);
   view.LastMagVarLat = 50;
   view.LastMagVarLon = 10;
-  view.MapCenterLon = 11;
+  view.AircraftLon = 11;
   EXPECT_FALSE(view.RefreshMagVar(variation)) << "exactly a degree is not more";
   view.MapCenterLat = 51.5F;
   view.MapCenterLon = 12.5F;
+  EXPECT_FALSE(view.RefreshMagVar(variation)) << "the map's centre alone is not the reference";
+  view.RecentreOnBox(5662.5F, 3500, 5662.5F, 3500);
   EXPECT_TRUE(view.RefreshMagVar(variation));
   EXPECT_NEAR(view.MapMagVar, 568 / magneticUnitsPerDegree, 1e-4);
   EXPECT_FALSE(view.RefreshMagVar(variation));
