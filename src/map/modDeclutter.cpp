@@ -108,18 +108,22 @@ SurfacePoint modDeclutter::PlaceLabel(float x, float y, std::string_view text, L
 std::int32_t modDeclutter::FindFreeCell(std::int32_t cell, std::string_view text, LabelKind kind) {
   const std::int32_t column = cell / GridRows;
   const std::int32_t row = cell % GridRows;
+  const std::int32_t span = LabelSpan(text);
   for (const Step& step : searchOrder) {
     if ((step.kinds >> static_cast<int>(kind) & 1) == 0) continue;
     const bool inColumn = row + step.down >= 0 && row + step.down < GridRows;
     const std::int32_t candidate = cell + step.down + step.columns * GridRows;
     if (!inColumn || column + step.columns < 0 || candidate >= CellCount) continue;
-    if (TryCellRun(candidate, step.direction, text) != occupied) return candidate;
+    if (TryCells(candidate, step.direction, span) != occupied) return candidate;
   }
   return cell;
 }
 
 std::int32_t modDeclutter::TryCellRun(std::int32_t cell, std::int32_t direction, std::string_view text) {
-  const std::int32_t span = LabelSpan(text);
+  return TryCells(cell, direction, LabelSpan(text));
+}
+
+std::int32_t modDeclutter::TryCells(std::int32_t cell, std::int32_t direction, std::int32_t span) {
   if (!RunIsFree(cell, span)) return occupied;
   LastDirection = direction;
   ClaimRun(cell, span);

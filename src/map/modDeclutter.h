@@ -51,6 +51,7 @@ class modDeclutter {
 
  private:
   std::int32_t LabelSpan(std::string_view text) const;
+  std::int32_t TryCells(std::int32_t cell, std::int32_t direction, std::int32_t span);
   bool RunIsFree(std::int32_t cell, std::int32_t span) const;
   void ClaimRun(std::int32_t cell, std::int32_t span);
 

@@ -60,21 +60,23 @@ CoverageMask HaloOf(const CoverageMask& ink, int step) {
 
 }  // namespace
 
-GlyphSet::GlyphSet(const QFont& font, double haloStep) : font(font), metrics(font), haloStep(haloStep) {}
+GlyphSet::GlyphSet(const QFont& font, double haloStep)
+    : font(font),
+      metrics(font),
+      haloStep(haloStep),
+      advances(endOfLetters, -1),
+      glyphs(static_cast<std::size_t>(endOfLetters) * subpixels) {}
 
 double GlyphSet::Advance(char32_t character) {
-  const auto known = advances.find(character);
-  if (known != advances.end()) return known->second;
-  const double advance = metrics.horizontalAdvance(QString::fromUcs4(&character, 1));
-  advances.emplace(character, advance);
+  double& advance = advances[character];
+  if (advance < 0) advance = metrics.horizontalAdvance(QString::fromUcs4(&character, 1));
   return advance;
 }
 
 const Glyph& GlyphSet::At(char32_t character, int subpixel) {
-  const auto key = static_cast<std::uint32_t>(character) * subpixels + static_cast<std::uint32_t>(subpixel);
-  const auto known = glyphs.find(key);
-  if (known != glyphs.end()) return known->second;
-  return glyphs.emplace(key, Draw(character, subpixel)).first->second;
+  auto& glyph = glyphs[static_cast<std::size_t>(character) * subpixels + static_cast<std::size_t>(subpixel)];
+  if (!glyph) glyph = std::make_unique<Glyph>(Draw(character, subpixel));
+  return *glyph;
 }
 
 Glyph GlyphSet::Draw(char32_t character, int subpixel) const {

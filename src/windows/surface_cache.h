@@ -31,12 +31,13 @@ struct Glyph {
 class GlyphSet {
  public:
   static constexpr int subpixels = 4;
+  static constexpr char32_t endOfLetters = 0x2100;  // Latin, Greek, Cyrillic, punctuation
 
   GlyphSet(const QFont& font, double haloStep);
 
   // Texts of these characters alone are drawn letter by letter; others (scripts
   // whose letters join) are left to the general painter.
-  static bool Knows(char32_t character) { return character >= 0x20 && character < 0x2100; }
+  static bool Knows(char32_t character) { return character >= 0x20 && character < endOfLetters; }
 
   double Advance(char32_t character);
   double Height() const { return metrics.height(); }
@@ -49,8 +50,8 @@ class GlyphSet {
   QFont font;
   QFontMetricsF metrics;
   double haloStep;
-  std::unordered_map<char32_t, double> advances;
-  std::unordered_map<std::uint32_t, Glyph> glyphs;
+  std::vector<double> advances;                // by character; below zero: not measured yet
+  std::vector<std::unique_ptr<Glyph>> glyphs;  // by character and subpixel, as they are needed
 };
 
 // A disc with its colours mixed in, premultiplied.
