@@ -57,8 +57,10 @@ void ReplaySurface::Print(std::string_view text) {
   primitive.font = MapFont();
   primitive.font.setPixelSize(FontPixels());
   primitive.font.setWeight(FontBold ? QFont::DemiBold : QFont::Normal);
-  primitive.pixels[0].ry() += QFontMetricsF(primitive.font).ascent();
-  primitive.text = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  primitive.text.setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+  primitive.text.setTextFormat(Qt::PlainText);
+  primitive.text.setPerformanceHint(QStaticText::AggressiveCaching);
+  primitive.text.prepare(QTransform(), primitive.font);
   primitive.halo = TextHalo;
 }
 
@@ -75,8 +77,7 @@ void ReplaySurface::Replay(QPainter& target) const {
         target.fillRect(0, 0, target.device()->width(), target.device()->height(), one.pen.color());
         break;
       case Kind::lines:
-        for (int i = 0; i + 1 < count; i += 2)
-          target.drawLine(one.pixels[i], one.pixels[i + 1]);
+        target.drawLines(one.pixels.constData(), count / 2);
         break;
       case Kind::circles:
         for (const QPointF centre : one.pixels)
@@ -96,10 +97,10 @@ void ReplaySurface::Replay(QPainter& target) const {
         if (one.halo) {
           target.setPen(QColor(0, 0, 0, 128));
           for (const QPointF offset : {QPointF(-1, -1), QPointF(1, -1), QPointF(-1, 1), QPointF(1, 1)})
-            target.drawText(one.pixels[0] + offset, one.text);
+            target.drawStaticText(one.pixels[0] + offset, one.text);
         }
         target.setPen(one.pen.color());
-        target.drawText(one.pixels[0], one.text);
+        target.drawStaticText(one.pixels[0], one.text);
         break;
     }
   }

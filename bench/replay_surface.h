@@ -5,7 +5,7 @@
 #include <QFont>
 #include <QList>
 #include <QPainter>
-#include <QString>
+#include <QStaticText>
 #include <vector>
 
 #include "windows/qt_painter_surface.h"
@@ -35,7 +35,7 @@ class ReplaySurface : public QtPainterSurface {
     double opacity;
     double size = 0;  // radius, or side of a point
     QList<QPointF> pixels = {};
-    QString text = {};
+    QStaticText text = {};
     QFont font = {};
     bool halo = false;
   };
