@@ -24,14 +24,15 @@ std::int32_t ModeColor(CursorPanelMode mode);
 // connected, else the map's centre.
 Position MapReference(const MapView& view, bool connected);
 
-// Panel 5, UTF-8. Bearings are magnetic by the view's MapMagVar, cut to whole
-// degrees, 0 to 359: "To:   12.3 NM / 47°" is the way from reference to
-// pointer, "From: ..." the bearing reversed.
+// Panel 5, UTF-8: the pointer's position as PositionText() writes it, or
+// "To:  12.3 NM / 47°", the way from reference to pointer, or "From:  12.3 NM /
+// 227°", the same with the bearing reversed. Bearings are magnetic by the
+// view's MapMagVar, in whole degrees.
 std::string PointerPanelText(CursorPanelMode mode, const MapView& view, Position reference, Position pointer,
                              PositionFormat format, int style);
 
-// Whole degrees of a magnetic bearing: true bearing less variation, brought to
-// 0..360 and cut; a full circle reads 0. Variation within -180..180.
+// True bearing (0..360) less variation (-180..180), brought to 0..360 and cut
+// to whole degrees. No number gives 0.
 std::int32_t WholeMagneticBearing(double trueBearing, double variation);
 
 // The leg of the plan that the pointer is held against: from waypoint

@@ -159,6 +159,8 @@ void BuildIndexes(NavDatabase& database) {
   database.victorAirwaysByEnds = IndexSegments(database.victorAirways, database.intersections);
   database.jetAirwaysByEnds = IndexSegments(database.jetAirways, database.intersections);
   database.taxiwaysByEnds = IndexTaxiways(database.taxiways);
+  database.parkingsByPlace = IndexPlaces(database.parkings, database.parkings.size());
+  database.airspacesByPlace = IndexPlaces(database.airspaces, database.airspaces.size());
   database.groundShapes = ShapesOf(database.polygons);
   database.groundShapesByPlace = IndexShapes(database.groundShapes, database.polygons);
 }

@@ -82,6 +82,8 @@ struct NavDatabase {
   PlaceIndex victorAirwaysByEnds;  // segments that name two rows of the intersection table
   PlaceIndex jetAirwaysByEnds;
   PlaceIndex taxiwaysByEnds;
+  PlaceIndex parkingsByPlace;
+  PlaceIndex airspacesByPlace;            // by their reference points
   std::vector<GroundShape> groundShapes;  // over polygons, in file order
   PlaceIndex groundShapesByPlace;         // by their first points
 

@@ -83,9 +83,9 @@ struct Settings {
   // Find
   std::int16_t CLOSE = 0;
   std::int16_t SHOW = 0;
-  // What the main window keeps of its menus and ribbons.
-  std::int32_t BUTTON = 0;
-  std::int32_t MENU = 0;
+  // What the main window keeps of its menus and ribbons: bits by map/switch_settings.h.
+  std::int32_t BUTTON = 1;
+  std::int32_t MENU = 9661;
   std::int32_t AIMENU = 0;
   std::int32_t AIRSPACE = 0;
   std::int32_t AITRAFFIC = 0;

@@ -1,0 +1,17 @@
+// Which of the three airspace switches a row belongs to: kind 1 control zones,
+// 2 controlled, 3 restricted; any other kind goes with the controlled ones.
+#pragma once
+
+#include "map/map_switches.h"
+#include "navdata/tables.h"
+
+inline bool AirspaceIsShown(const AirspaceRec& airspace, const MapSwitches& switches) {
+  switch (airspace.intType) {
+    case 1:
+      return switches.mnuCtrz;
+    case 3:
+      return switches.mnuAir2;
+    default:
+      return switches.mnuAir1;
+  }
+}
