@@ -21,6 +21,13 @@ void AppendMapLine(const Projection& projection, Position from, Position to,
   lines.push_back({{a.x + turn, a.y}, b});
 }
 
+ClipRect OneWorldPage(const Projection& projection, float margin) {
+  const auto half = static_cast<float>((projection.UnwrappedX(180) - projection.UnwrappedX(-180)) / 2);
+  const float middle = mapScaleWidth / 2.0F;
+  return {std::max(-margin, middle - half), -margin, std::min(mapScaleWidth + margin, middle + half),
+          mapScaleHeight + margin};
+}
+
 std::vector<Position> GreatCirclePlaces(Position from, Position to, double stepNM) {
   const double distance = GreatCircleDistance(from.lat, from.lon, to.lat, to.lon);
   const int steps = std::clamp(static_cast<int>(std::ceil(distance / stepNM)), 1, 1000);

@@ -4,12 +4,17 @@
 #include <vector>
 
 #include "map/map_view.h"
+#include "map/shape_clip.h"
 #include "platform/draw_surface.h"
 
 // Appends the straight line on the map between two places, the shorter way
 // round the world. Where that way leaves the map's world at one side and comes
 // back at the other, two lines are appended.
 void AppendMapLine(const Projection& projection, Position from, Position to, std::vector<SurfaceLine>& lines);
+
+// The page grown by margin units on each side, but never more than one turn of
+// the world: what is drawn for a turn beside it stays off.
+ClipRect OneWorldPage(const Projection& projection, float margin);
 
 // The places along the great circle between two places, both ends included, no
 // step longer than about stepNM.

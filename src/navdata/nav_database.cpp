@@ -60,11 +60,13 @@ PlaceIndex IndexTaxiways(const std::vector<TaxiRec>& taxiways) {
   return PlaceIndex::BuildForEnds(ends);
 }
 
-// Points before the first "M" belong to no shape.
+// Points before the first "M" belong to no shape, a hole to the shape before it.
 std::vector<GroundShape> ShapesOf(const std::vector<PolygonRec>& polygons) {
   std::vector<GroundShape> shapes;
   for (std::uint32_t row = 0; row < polygons.size(); ++row) {
-    if (polygons[row].strFlag.characters[0] == 'M') shapes.push_back({row, 0});
+    const bool begins = polygons[row].strFlag.characters[0] == 'M';
+    const bool hole = polygons[row].sngValue == groundHoleValue && !shapes.empty();
+    if (begins && !hole) shapes.push_back({row, 0});
     if (!shapes.empty()) ++shapes.back().rowCount;
   }
   return shapes;
@@ -76,6 +78,24 @@ PlaceIndex IndexShapes(const std::vector<GroundShape>& shapes, const std::vector
   for (const GroundShape& shape : shapes)
     places.push_back({polygons[shape.firstRow].sngLat, polygons[shape.firstRow].sngLon});
   return PlaceIndex::Build(places);
+}
+
+PlaceIndex IndexAirspaces(const std::vector<AirspaceRec>& airspaces) {
+  std::vector<GeoBox> boxes;
+  boxes.reserve(airspaces.size());
+  for (const AirspaceRec& airspace : airspaces)
+    boxes.push_back(BoxAround(airspace.points));
+  return PlaceIndex::BuildForBoxes(boxes);
+}
+
+PlaceIndex IndexMsa(const std::vector<MsaRec>& msa) {
+  std::vector<GeoBox> boxes;
+  boxes.reserve(msa.size());
+  for (const MsaRec& sector : msa) {
+    const MsaArea area = AreaOf(sector);
+    boxes.push_back({area.south, area.west, area.north, area.east});
+  }
+  return PlaceIndex::BuildForBoxes(boxes);
 }
 
 }  // namespace
@@ -163,4 +183,8 @@ void BuildIndexes(NavDatabase& database) {
   database.airspacesByPlace = IndexPlaces(database.airspaces, database.airspaces.size());
   database.groundShapes = ShapesOf(database.polygons);
   database.groundShapesByPlace = IndexShapes(database.groundShapes, database.polygons);
+  database.airspacesByBox = IndexAirspaces(database.airspaces);
+  database.msaByBox = IndexMsa(database.msa);
+  database.polygonOutlines = OutlineLevels::Build(database.worldPolygons);
+  database.lineOutlines = OutlineLevels::Build(database.worldLines);
 }

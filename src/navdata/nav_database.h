@@ -10,10 +10,12 @@
 
 #include "navdata/ident_index.h"
 #include "navdata/magnetic_variation.h"
+#include "navdata/outline_levels.h"
 #include "navdata/place_index.h"
 #include "navdata/tables.h"
 
-// One shape of the ground polygons: the rows from an "M" to before the next.
+// One shape of the ground polygons with the holes behind it: the rows from the
+// "M" of its outer ring to before the next one's.
 struct GroundShape {
   std::uint32_t firstRow = 0;
   std::uint32_t rowCount = 0;
@@ -86,6 +88,10 @@ struct NavDatabase {
   PlaceIndex airspacesByPlace;            // by their reference points
   std::vector<GroundShape> groundShapes;  // over polygons, in file order
   PlaceIndex groundShapesByPlace;         // by their first points
+  PlaceIndex airspacesByBox;
+  PlaceIndex msaByBox;
+  OutlineLevels polygonOutlines;  // of worldPolygons
+  OutlineLevels lineOutlines;     // of worldLines
 
   std::span<const RunwayRec> Runways(const AirportRec& airport) const;
   std::span<const FrequencyRec> Frequencies(const AirportRec& airport) const;

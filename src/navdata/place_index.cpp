@@ -23,7 +23,82 @@ std::size_t CellOf(Position place) {
   return static_cast<std::size_t>(CellRow(lat)) * cellColumns + static_cast<std::size_t>(CellColumn(lon));
 }
 
+// A box over more cells than this is not worth its entries.
+constexpr int mostCellsPerBox = 400;
+
+struct CellRange {
+  int firstRow, lastRow, west, east;
+  bool crossesDateLine;
+
+  int Columns() const { return crossesDateLine ? cellColumns - west + east + 1 : east - west + 1; }
+  int Cells() const { return (lastRow - firstRow + 1) * Columns(); }
+};
+
+CellRange CellsOf(const GeoBox& box) {
+  const auto row = [](float lat) { return CellRow(std::clamp(static_cast<double>(lat), -90.0, 90.0)); };
+  const auto column = [](float lon) {
+    return CellColumn(std::clamp(static_cast<double>(lon), -180.0, 180.0));
+  };
+  return {row(box.south), row(box.north), column(box.west), column(box.east), box.west > box.east};
+}
+
 }  // namespace
+
+GeoBox BoxAround(std::span<const Position> points) {
+  constexpr GeoBox nothing{90, 180, -90, -180};
+  double south = 90;
+  double north = -90;
+  double west = 0;
+  double east = 0;
+  double turn = 0;
+  double before = 0;
+  bool first = true;
+  for (const Position point : points) {
+    if (!std::isfinite(point.lat) || !(std::abs(point.lon) <= 180)) continue;
+    const double step = point.lon - before;
+    if (!first && std::abs(step) > 180) turn += step > 0 ? -360 : 360;
+    before = point.lon;
+    const double lon = point.lon + turn;
+    west = first ? lon : std::min(west, lon);
+    east = first ? lon : std::max(east, lon);
+    south = std::min<double>(south, point.lat);
+    north = std::max<double>(north, point.lat);
+    first = false;
+  }
+  if (first) return nothing;
+  const auto wrapped = [](double lon) { return static_cast<float>(std::remainder(lon, 360)); };
+  GeoBox box{static_cast<float>(south), -180, static_cast<float>(north), 180};
+  if (east - west >= 360) return box;
+  const bool within = west >= -180 && east <= 180;
+  box.west = within ? static_cast<float>(west) : wrapped(west);
+  box.east = within ? static_cast<float>(east) : wrapped(east);
+  return box;
+}
+
+PlaceIndex PlaceIndex::BuildForBoxes(const std::vector<GeoBox>& boxes) {
+  PlaceIndex index;
+  index.manyCellsPerRow = true;
+  std::vector<std::vector<std::int32_t>> byCell(cellCount);
+  for (std::size_t row = 0; row < boxes.size(); ++row) {
+    const GeoBox& box = boxes[row];
+    if (!(box.south <= box.north) || !std::isfinite(box.west) || !std::isfinite(box.east)) continue;
+    const CellRange cells = CellsOf(box);
+    if (cells.Cells() > mostCellsPerBox) {
+      index.wideRows.push_back(static_cast<std::int32_t>(row));
+      continue;
+    }
+    for (int line = cells.firstRow; line <= cells.lastRow; ++line)
+      for (int i = 0; i < cells.Columns(); ++i)
+        byCell[static_cast<std::size_t>(line * cellColumns + (cells.west + i) % cellColumns)].push_back(
+            static_cast<std::int32_t>(row));
+  }
+  index.cellStart.assign(cellCount + 1, 0);
+  for (std::size_t cell = 0; cell < cellCount; ++cell) {
+    index.rows.insert(index.rows.end(), byCell[cell].begin(), byCell[cell].end());
+    index.cellStart[cell + 1] = static_cast<std::uint32_t>(index.rows.size());
+  }
+  return index;
+}
 
 PlaceIndex PlaceIndex::Build(const std::vector<Position>& positions, const std::vector<bool>* skip) {
   constexpr std::uint32_t none = 0xFFFFFFFF;
@@ -62,26 +137,24 @@ PlaceIndex PlaceIndex::WholeTable(std::size_t rowCount) {
 std::vector<std::int32_t> PlaceIndex::Near(const GeoBox& box) const {
   if (cellStart.empty()) return rows;
   std::vector<std::int32_t> found;
-  if (rows.empty() || !(box.north >= box.south)) return found;
+  if (!(box.north >= box.south)) return found;
+  found = wideRows;
+  if (rows.empty()) return found;
   const auto addColumns = [&](int cellRow, int first, int last) {
     const std::size_t line = static_cast<std::size_t>(cellRow) * cellColumns;
     const auto from = rows.begin() + cellStart[line + static_cast<std::size_t>(first)];
     const auto to = rows.begin() + cellStart[line + static_cast<std::size_t>(last) + 1];
     found.insert(found.end(), from, to);
   };
-  const int firstRow = CellRow(std::clamp(static_cast<double>(box.south), -90.0, 90.0));
-  const int lastRow = CellRow(std::clamp(static_cast<double>(box.north), -90.0, 90.0));
-  const int west = CellColumn(std::clamp(static_cast<double>(box.west), -180.0, 180.0));
-  const int east = CellColumn(std::clamp(static_cast<double>(box.east), -180.0, 180.0));
-  const bool crossesDateLine = box.west > box.east;
-  for (int row = firstRow; row <= lastRow; ++row) {
-    if (!crossesDateLine) {
-      addColumns(row, west, east);
-    } else if (west <= east) {
+  const CellRange cells = CellsOf(box);
+  for (int row = cells.firstRow; row <= cells.lastRow; ++row) {
+    if (!cells.crossesDateLine) {
+      addColumns(row, cells.west, cells.east);
+    } else if (cells.west <= cells.east) {
       addColumns(row, 0, cellColumns - 1);
     } else {
-      addColumns(row, 0, east);
-      addColumns(row, west, cellColumns - 1);
+      addColumns(row, 0, cells.east);
+      addColumns(row, cells.west, cellColumns - 1);
     }
   }
   if (placesPerRow > 1) {
@@ -89,7 +162,7 @@ std::vector<std::int32_t> PlaceIndex::Near(const GeoBox& box) const {
       place /= placesPerRow;
   }
   std::sort(found.begin(), found.end());
-  if (placesPerRow > 1) found.erase(std::unique(found.begin(), found.end()), found.end());
+  if (placesPerRow > 1 || manyCellsPerRow) found.erase(std::unique(found.begin(), found.end()), found.end());
   return found;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "navdata/geodesy.h"
@@ -17,6 +18,11 @@ struct GeoBox {
   float east = 180;
 };
 
+// The smallest box around a shape's points, which follow each other the shorter
+// way round the world. Points that are no numbers are passed over; a shape
+// without points gives a box that holds nothing (south above north).
+GeoBox BoxAround(std::span<const Position> points);
+
 class PlaceIndex {
  public:
   PlaceIndex() = default;
@@ -29,6 +35,10 @@ class PlaceIndex {
   // Rows that have two places (the ends of a line) are found by either; places
   // holds two for each row, one behind the other.
   static PlaceIndex BuildForEnds(const std::vector<Position>& places);
+
+  // Rows that cover an area are found wherever their box lies. Boxes of no
+  // numbers and boxes that hold nothing are left out.
+  static PlaceIndex BuildForBoxes(const std::vector<GeoBox>& boxes);
 
   // Answers every question with all of so many rows, as a walk over the table
   // would look at them: to hold the index against.
@@ -44,5 +54,7 @@ class PlaceIndex {
  private:
   std::vector<std::uint32_t> cellStart;  // 180 x 360 cells + 1
   std::vector<std::int32_t> rows;        // by cell, ascending within one
+  std::vector<std::int32_t> wideRows;    // boxes over so many cells that every answer has them
   int placesPerRow = 1;
+  bool manyCellsPerRow = false;
 };

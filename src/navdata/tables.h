@@ -201,8 +201,9 @@ struct PolygonRec {
   FixedText<1> strFlag;  // "M" starts a shape, "L" adds a point
   float sngLat = 0;
   float sngLon = 0;
-  float sngValue = 0;
+  float sngValue = 0;  // groundHoleValue: of a hole in the shape before
 };
+constexpr float groundHoleValue = 1;
 
 struct MarkerRec {
   FixedText<2> strCode;
@@ -214,18 +215,36 @@ struct MarkerRec {
 struct MsaRec {
   FixedText<6> strName;
   FixedText<5> strCode;
-  std::array<std::uint8_t, 32> numbers{};
+  std::array<std::uint8_t, 32> numbers{};  // see MsaArea
   FixedText<7> strIdent;
 };
+
+// What the numbers of an MSA sector say: five little-endian 32-bit floats, then
+// twelve reserved bytes that are 0. West above east crosses the date line.
+struct MsaArea {
+  float west = 0;
+  float south = 0;
+  float east = 0;
+  float north = 0;
+  float altitudeFeet = 0;
+};
+MsaArea AreaOf(const MsaRec& sector);
+void SetArea(MsaRec& sector, const MsaArea& area);
+
+// Kinds of world shapes.
+constexpr std::uint8_t worldLand = 1;         // closed
+constexpr std::uint8_t worldBorder = 2;       // a line
+constexpr std::uint8_t worldInlandWater = 3;  // closed, in land
+constexpr std::uint8_t worldRiver = 4;        // a line
 
 // A coastline, a border or a river. The bounds are west, south, east, north.
 struct WorldShapeRec {
   std::int32_t lngID = 0;
-  std::uint8_t bytType = 0;
-  float sngBox1 = 0;  // west
-  float sngBox2 = 0;  // south
-  float sngBox3 = 0;  // east
-  float sngBox4 = 0;  // north
+  std::uint8_t bytType = 0;  // worldLand to worldRiver
+  float sngBox1 = 0;         // west
+  float sngBox2 = 0;         // south
+  float sngBox3 = 0;         // east
+  float sngBox4 = 0;         // north
   std::uint32_t firstPoint = 0;
   std::uint32_t pointCount = 0;
 };

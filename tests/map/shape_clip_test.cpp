@@ -40,11 +40,49 @@ TEST(ClipPolygon, KeepsWhatLiesOnThePage) {
   }
 }
 
-TEST(MayTouch, RefusesOnlyLinesBeyondOneEdge) {
-  EXPECT_TRUE(MayTouch({-10, 25}, {110, 25}, page));
-  EXPECT_TRUE(MayTouch({-10, -10}, {10, 10}, page));
-  EXPECT_FALSE(MayTouch({-10, 10}, {-5, 40}, page));
-  EXPECT_FALSE(MayTouch({10, 60}, {90, 51}, page));
+TEST(ClipLine, KeepsThePartOnThePage) {
+  struct Case {
+    const char* why;
+    SurfacePoint a, b;
+    bool touches;
+    SurfacePoint from, to;
+  };
+  const Case cases[] = {
+      {"inside", {10, 10}, {20, 40}, true, {10, 10}, {20, 40}},
+      {"through both sides", {-10, 25}, {110, 25}, true, {0, 25}, {100, 25}},
+      {"in over a corner", {-10, -10}, {10, 10}, true, {0, 0}, {10, 10}},
+      {"past the corner", {-20, 10}, {10, -20}, false, {-20, 10}, {10, -20}},
+      {"beyond one edge", {-10, 10}, {-5, 40}, false, {-10, 10}, {-5, 40}},
+      {"along an edge", {-50, 50}, {150, 50}, true, {0, 50}, {100, 50}},
+      {"from very far", {-1e7F, 20}, {1e7F, 30}, true, {0, 25}, {100, 25}},
+      {"no length, inside", {5, 5}, {5, 5}, true, {5, 5}, {5, 5}},
+      {"no length, outside", {-5, 5}, {-5, 5}, false, {-5, 5}, {-5, 5}},
+  };
+  for (const Case& c : cases) {
+    SurfacePoint a = c.a;
+    SurfacePoint b = c.b;
+    EXPECT_EQ(ClipLine(a, b, page), c.touches) << c.why;
+    EXPECT_NEAR(a.x, c.from.x, 1e-3) << c.why;
+    EXPECT_NEAR(a.y, c.from.y, 1e-3) << c.why;
+    EXPECT_NEAR(b.x, c.to.x, 1e-3) << c.why;
+    EXPECT_NEAR(b.y, c.to.y, 1e-3) << c.why;
+  }
+}
+
+TEST(LineClipper, GivesOneRunForEachVisit) {
+  LineClipper clipper(page);
+  for (const SurfacePoint point : {SurfacePoint{10, 10}, {50, -50}, {90, 10}, {90, 20}, {300, 20}, {300, 90}})
+    clipper.Add(point);
+  clipper.Break();
+  clipper.Add({20, 20});
+  clipper.Add({30, 20});
+  clipper.Break();
+  ASSERT_EQ(clipper.Runs().size(), 3u);
+  EXPECT_EQ(clipper.Runs()[0].size(), 2u);
+  EXPECT_EQ(clipper.Runs()[1].size(), 4u) << "in over the top, two corners, out at the right";
+  EXPECT_NEAR(clipper.Runs()[1].front().y, 0, 1e-3);
+  EXPECT_NEAR(clipper.Runs()[1].back().x, 100, 1e-3);
+  EXPECT_EQ(clipper.Runs()[2].front().x, 20) << "nothing joins across a break";
 }
 
 }  // namespace
