@@ -108,12 +108,13 @@ void DrawPlate(std::string_view text, float x, float y, std::int32_t color, cons
 }
 
 void DrawMeasureLine(const MeasureLine& line, const MapView& view, const ColorSettings& colors,
-                     DrawSurface& surface) {
+                     DrawSurface& surface, bool withCaption) {
   if (!line.visible) return;
   const StyleKeeper keeper(surface);
   surface.DrawWidth = 1.5F;
   DrawMapLine({line.MeasureStartLat, line.MeasureStartLon}, {line.MeasureEndLat, line.MeasureEndLon}, view,
               colors.MEASURE, surface);
+  if (!withCaption) return;
   DrawPlate(line.Caption(view.MapMagVar), line.label.x + pointerGap, line.label.y + pointerGap,
             colors.MEASURE, colors, surface);
 }

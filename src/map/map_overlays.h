@@ -15,9 +15,10 @@
 #include "platform/draw_surface.h"
 #include "settings/settings.h"
 
-// The line in colour MEASURE and its caption on a plate. Nothing if it is not visible.
+// The line in colour MEASURE and, unless the caller shows it in a label of its
+// own, its caption on a plate. Nothing if it is not visible.
 void DrawMeasureLine(const MeasureLine& line, const MapView& view, const ColorSettings& colors,
-                     DrawSurface& surface);
+                     DrawSurface& surface, bool withCaption = true);
 
 // In colour ZOOM. Nothing while BoxActive is false.
 void DrawDragBox(const DragBox& box, const ColorSettings& colors, DrawSurface& surface);
