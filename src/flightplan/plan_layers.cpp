@@ -7,11 +7,17 @@
 #include "base/code_page.h"
 #include "map/clsNavaid.h"
 #include "map/geo_line.h"
+#include "map/symbol_label.h"
 
 namespace {
 
 constexpr std::int16_t labelRange = 2000;
 constexpr double greatCircleStepNM = 60;
+constexpr float labelDrop = 75;      // of most rows
+constexpr float farLabelDrop = 150;  // of NDB and user waypoints
+constexpr std::int16_t airportRadius = 46;
+constexpr std::int16_t vorRadius = 180;
+constexpr std::int16_t ndbRadius = 110;
 constexpr float labelPadding = 14;  // units around a label's text
 constexpr double fitMargin = 1.25;
 constexpr std::int16_t nearestFitRow = 4;
@@ -35,11 +41,16 @@ bool IsAirport(const PlanWaypoint& row) {
   return row.Kind == RowKind::departure || row.Kind == RowKind::destination;
 }
 
-// Draws the row's symbol. Returns how far below its place the label begins.
+// The type of a row's VOR; a plain VOR where the database does not have it.
+std::int16_t VorTypeOf(const NavDatabase& database, const PlanWaypoint& row) {
+  if (row.DbIndex < 0 || static_cast<std::size_t>(row.DbIndex) >= database.vors.size()) return 0;
+  const VorRec& vor = database.vors[static_cast<std::size_t>(row.DbIndex)];
+  return vor.strCode.View() == row.Code.View() ? vor.intType : std::int16_t{0};
+}
+
+// Draws the row's symbol. Returns where its label begins.
 float DrawSymbol(const MapPaint& paint, const PlanWaypoint& row) {
-  clsNavaid symbol;
-  symbol.objTarget = &paint.surface;
-  symbol.rangeNM = paint.view.RangeNM();
+  clsNavaid& symbol = paint.navaid;
   symbol.lngColor = paint.colors.ROUTE;
   symbol.sngCenterX = static_cast<float>(paint.projection.LonToX(row.Lon));
   symbol.sngCenterY = static_cast<float>(paint.projection.LatToY(row.Lat));
@@ -47,28 +58,32 @@ float DrawSymbol(const MapPaint& paint, const PlanWaypoint& row) {
   paint.surface.FillStyle = FillStyleKind::solid;
   paint.surface.FillColor = paint.colors.MAP;
   if (IsAirport(row)) {
-    symbol.intRadius = 46;
+    symbol.intRadius = airportRadius;
+    symbol.intFillStyle = 0;
     symbol.DrawAsAirportCircle();
-    return 75;
+    return symbol.sngCenterY + labelDrop;
   }
   if (row.Sym == "VOR") {
+    symbol.intRadius = vorRadius;
+    symbol.intType = VorTypeOf(paint.database, row);
+    symbol.sngLength = 40;
     symbol.DrawAsVorSymbol();
-    return 75;
+    return symbol.sngCenterY + labelDrop;
   }
   if (row.Sym == "NDB") {
-    symbol.intRadius = 110;
+    symbol.intRadius = ndbRadius;
     paint.surface.FillStyle = FillStyleKind::transparent;
     symbol.DrawAsNDB();
-    return 150;
+    return symbol.sngCenterY + farLabelDrop;
   }
   if (row.Sym == "Uwp") {
     symbol.sngLength = 40;
     symbol.DrawAsVRP();
-    return 150;
+    return symbol.sngCenterY + farLabelDrop;
   }
   symbol.sngLength = 30;
   symbol.DrawAsIntersection();
-  return 75;
+  return symbol.sngCenterY + labelDrop;
 }
 
 // The code on a shaded plate, so that it stands out from what lies below it.
@@ -87,27 +102,26 @@ void PrintPlate(const MapPaint& paint, SurfacePoint place, const std::string& te
   surface.Print(text);
 }
 
-// Airports first, then every other row that still finds a place.
+// All symbols, then the codes, the airports' above the others.
 void DrawPlanWaypoints(const MapPaint& paint, const FlightPlan& plan) {
   struct Label {
     const PlanWaypoint* row;
-    float below;
+    float top;
   };
   std::vector<Label> labels;
   for (const PlanWaypoint& row : plan.rows)
     if (paint.view.InView(row.Lat, row.Lon, navaidMargin)) labels.push_back({&row, DrawSymbol(paint, row)});
   if (paint.view.RangeNM() > labelRange) return;
   std::stable_partition(labels.begin(), labels.end(),
-                        [](const Label& label) { return IsAirport(*label.row); });
+                        [](const Label& label) { return !IsAirport(*label.row); });
   paint.surface.ForeColor = paint.colors.TAXINAME;
   for (const Label& label : labels) {
     paint.surface.FontBold = IsAirport(*label.row);
-    paint.surface.FontSize = IsAirport(*label.row) ? 10 : 8.5F;
+    paint.surface.FontSize = LabelPoints(paint.settings, IsAirport(*label.row) ? 10 : 8.5F);
     const std::string text = CodePageToUtf8(label.row->Code.View());
     const auto x =
         static_cast<float>(paint.projection.LonToX(label.row->Lon)) - paint.surface.TextWidth(text) / 2;
-    const auto y = static_cast<float>(paint.projection.LatToY(label.row->Lat)) + label.below;
-    PrintPlate(paint, {x, y}, text);
+    PrintPlate(paint, {x, label.top}, text);
   }
 }
 

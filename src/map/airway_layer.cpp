@@ -5,6 +5,8 @@
 
 #include "base/code_page.h"
 #include "map/geo_line.h"
+#include "map/range_steps.h"
+#include "map/symbol_label.h"
 
 namespace {
 
@@ -12,73 +14,83 @@ constexpr std::int16_t labelRange = 100;
 constexpr std::int16_t altitudeRange = 75;
 
 // The farther the view, the denser the net: it steps back behind the map.
-float OpacityAt(std::int16_t rangeNM) {
-  struct Step {
-    std::int16_t range;
-    float opacity;
-  };
-  constexpr std::array<Step, 7> steps = {
-      {{50, 0.85F}, {100, 0.7F}, {200, 0.5F}, {300, 0.36F}, {500, 0.26F}, {900, 0.17F}, {2000, 0.1F}}};
-  for (const Step& step : steps)
-    if (rangeNM <= step.range) return step.opacity;
-  return 0.06F;
-}
+constexpr std::array<RangeStep, 9> lineOpacity = {{{10, 0.8F},
+                                                   {50, 0.7F},
+                                                   {100, 0.5F},
+                                                   {200, 0.38F},
+                                                   {300, 0.3F},
+                                                   {500, 0.22F},
+                                                   {900, 0.14F},
+                                                   {2000, 0.09F},
+                                                   {6000, 0.06F}}};
+constexpr std::array<RangeStep, 3> labelOpacity = {{{30, 0.95F}, {50, 0.85F}, {100, 0.7F}}};
 
 Position PlaceOf(const NavDatabase& database, std::int32_t intersection) {
   const IntersectionRec& row = database.intersections[static_cast<std::size_t>(intersection)];
   return {row.sngLat, row.sngLon};
 }
 
-std::vector<std::string> LabelLines(const MapPaint& paint, const AirwaySegmentRec& segment) {
-  std::vector<std::string> lines;
-  if (paint.switches.btnIcao) lines.push_back(CodePageToUtf8(segment.strName.View()));
-  if (paint.switches.btnFreq && paint.view.RangeNM() <= altitudeRange)
-    lines.push_back(CodePageToUtf8("(" + segment.strLower.Text() + "-" + segment.strUpper.Text() + ")"));
-  return lines;
+void MakeLabel(const MapPaint& paint, const AirwaySegmentRec& segment, std::string& label) {
+  label.clear();
+  if (paint.switches.btnIcao) AppendLine(label, CodePageToUtf8(segment.strName.View()));
+  if (!paint.switches.btnFreq || paint.RangeNM() > altitudeRange) return;
+  AppendLine(label, CodePageToUtf8("(" + segment.strLower.Text() + "-" + segment.strUpper.Text() + ")"));
 }
 
-void PrintLabel(const MapPaint& paint, const AirwaySegmentRec& segment, const SurfaceLine& line) {
-  const std::vector<std::string> texts = LabelLines(paint, segment);
-  if (texts.empty()) return;
+void PrintLabels(const MapPaint& paint, const std::vector<const AirwaySegmentRec*>& segments,
+                 std::int32_t color) {
   DrawSurface& surface = paint.surface;
-  const float x = (line.from.x + line.to.x) / 2;
-  const float y = (line.from.y + line.to.y) / 2;
-  const float height = surface.TextHeight(texts.front());
-  const auto place = paint.labels.PlaceLabel(x - surface.TextWidth(texts.front()) / 2, y - height / 2,
-                                             texts.front(), LabelKind::airway);
-  const float middle = place.x + surface.TextWidth(texts.front()) / 2;
-  surface.CurrentY = place.y;
-  for (const std::string& text : texts) {
-    surface.CurrentX = middle - surface.TextWidth(text) / 2;
-    surface.Print(text);
-    surface.CurrentY += height;
+  surface.Opacity = ValueAt(labelOpacity, paint.RangeNM());
+  surface.ForeColor = color;
+  surface.FontSize = LabelPoints(paint.settings, 7.5F);
+  surface.TextHalo = true;
+  const float halfHeight = surface.TextHeight("0") / 2;
+  std::string label;
+  std::vector<SurfaceLine> line;
+  for (const AirwaySegmentRec* segment : segments) {
+    MakeLabel(paint, *segment, label);
+    line.clear();
+    AppendMapLine(paint.projection, PlaceOf(paint.database, segment->lngFrom),
+                  PlaceOf(paint.database, segment->lngTo), line);
+    const SurfaceLine& first = line.front();
+    PlaceAndPrint(surface, paint.labels, (first.from.x + first.to.x) / 2,
+                  (first.from.y + first.to.y) / 2 - halfHeight, label, LabelKind::airway);
   }
 }
 
-void DrawAirways(const MapPaint& paint, const std::vector<AirwaySegmentRec>& segments,
-                 const PlaceIndex& byEnds, std::int32_t color) {
-  DrawSurface& surface = paint.surface;
-  const auto shown = SegmentsInView(paint.view, paint.database, segments, byEnds);
+// One pass: all lines, then all labels, each in table order.
+void DrawSegments(const MapPaint& paint, const std::vector<const AirwaySegmentRec*>& segments,
+                  std::int32_t color) {
   std::vector<SurfaceLine> lines;
-  lines.reserve(shown.size());
-  for (const AirwaySegmentRec* segment : shown)
+  lines.reserve(segments.size());
+  for (const AirwaySegmentRec* segment : segments)
     AppendMapLine(paint.projection, PlaceOf(paint.database, segment->lngFrom),
                   PlaceOf(paint.database, segment->lngTo), lines);
-  surface.Opacity = OpacityAt(paint.view.RangeNM());
-  surface.DrawWidth = 1;
-  surface.Lines(lines, color);
-  if (paint.view.RangeNM() > labelRange) return;
-  surface.Opacity = 1;
-  surface.ForeColor = color;
-  surface.FontSize = 7.5F;
-  surface.TextHalo = true;
-  std::vector<SurfaceLine> one;
-  for (const AirwaySegmentRec* segment : shown) {
-    one.clear();
-    AppendMapLine(paint.projection, PlaceOf(paint.database, segment->lngFrom),
-                  PlaceOf(paint.database, segment->lngTo), one);
-    PrintLabel(paint, *segment, one.front());
-  }
+  paint.surface.Lines(lines, color);
+  if (paint.RangeNM() <= labelRange) PrintLabels(paint, segments, color);
+}
+
+// First all but the selected airway, then that one above them.
+void DrawAirways(const MapPaint& paint, const std::vector<AirwaySegmentRec>& table, const PlaceIndex& byEnds,
+                 std::int32_t color) {
+  const MapSelection& selection = paint.selection;
+  std::vector<const AirwaySegmentRec*> plain = SegmentsInView(paint.view, paint.database, table, byEnds);
+  std::vector<const AirwaySegmentRec*> selected;
+  if (!selection.SelectedAirway.empty())
+    std::erase_if(plain, [&](const AirwaySegmentRec* segment) {
+      const bool named = segment->strName == selection.SelectedAirway;
+      if (named) selected.push_back(segment);
+      return named;
+    });
+  paint.surface.DrawWidth = 1;
+  paint.surface.Opacity = ValueAt(lineOpacity, paint.RangeNM());
+  DrawSegments(paint, plain, color);
+  const bool airwaySelected = selection.SelectedObjectType == SelectedObject::jetAirway ||
+                              selection.SelectedObjectType == SelectedObject::victorAirway;
+  if (!airwaySelected) return;
+  paint.surface.DrawWidth = 2;
+  paint.surface.Opacity = 1;
+  DrawSegments(paint, selected, paint.colors.HILITE);
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
-// The airways: jet first, victor above them.
+// The airways: jet first, victor above them; the selected airway once more
+// above the others of its net. A selected name counts in both nets, as an
+// airway of one name may run through both.
 #pragma once
 
 #include "map/map_layer.h"

@@ -1,16 +1,21 @@
 #include "map/clsNavaid.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
-#include <utility>
 
 #include "base/numbers.h"
+#include "map/style_keeper.h"
+#include "map/symbol_label.h"
 #include "navdata/geodesy.h"
 
 namespace {
 
 constexpr std::int16_t symbolRange = 900;  // NM
 constexpr float intersectionLift = 15;
+constexpr float airportLabelDrop = 50;
+constexpr float nearestJoin = 60;  // units between symbol and label from which a line joins them
+constexpr float staticHalf = 100;
 
 }  // namespace
 
@@ -18,8 +23,14 @@ bool clsNavaid::BeyondSymbolRange() const {
   return rangeNM > symbolRange;
 }
 
-void clsNavaid::DrawPoint() {
-  objTarget->DrawWidth = 2;
+SurfacePoint clsNavaid::At(double angle, double distance) const {
+  return {static_cast<float>(sngCenterX + distance * std::sin(DegToRad(angle))),
+          static_cast<float>(sngCenterY - distance * std::cos(DegToRad(angle)))};
+}
+
+void clsNavaid::DrawPoint(float width) {
+  const StyleKeeper keeper(*objTarget);
+  objTarget->DrawWidth = width;
   objTarget->PSet(sngCenterX, sngCenterY, lngColor);
 }
 
@@ -35,27 +46,66 @@ void clsNavaid::DrawTriangle() {
 
 void clsNavaid::DrawAsIntersection() {
   sngCenterY -= intersectionLift;
-  if (BeyondSymbolRange()) {
-    DrawPoint();
-  } else {
-    DrawTriangle();
-  }
+  if (BeyondSymbolRange()) return DrawPoint(1);
+  DrawTriangle();
+}
+
+void clsNavaid::DrawAsNatrackWP() {
+  const StyleKeeper keeper(*objTarget);
+  objTarget->DrawWidth = 2;
+  DrawTriangle();
 }
 
 void clsNavaid::DrawAsVRP() {
   DrawTriangle();
-  const auto style = objTarget->DrawStyle;
+  const StyleKeeper keeper(*objTarget);
   objTarget->DrawStyle = DrawStyleKind::solid;
+  objTarget->FillStyle = FillStyleKind::transparent;
   objTarget->Circle(sngCenterX, sngCenterY, sngLength / 2, lngColor);
-  objTarget->DrawStyle = style;
+}
+
+void clsNavaid::DrawAsActiveWP() {
+  const StyleKeeper keeper(*objTarget);
+  objTarget->DrawStyle = DrawStyleKind::solid;
+  objTarget->DrawWidth = 2;
+  objTarget->Circle(sngCenterX, sngCenterY, static_cast<float>(intRadius) / 2, lngColor);
+}
+
+void clsNavaid::DrawAsMarker() {
+  const StyleKeeper keeper(*objTarget);
+  objTarget->PSet(sngCenterX, sngCenterY, lngColor);
+  objTarget->FillStyle = FillStyleKind::solid;
+  objTarget->FillColor = lngColor;
+  objTarget->Circle(sngCenterX, sngCenterY, sngLength, lngColor);
 }
 
 void clsNavaid::DrawAsAirportCircle() {
-  if (BeyondSymbolRange()) {
-    DrawPoint();
-  } else {
-    objTarget->Circle(sngCenterX, sngCenterY, intRadius, lngColor);
-  }
+  if (BeyondSymbolRange()) return DrawPoint(2);
+  const StyleKeeper keeper(*objTarget);
+  objTarget->FillStyle = intFillStyle == 0 ? FillStyleKind::solid : FillStyleKind::transparent;
+  objTarget->Circle(sngCenterX, sngCenterY, intRadius, lngColor);
+}
+
+void clsNavaid::DrawAsAirport() {
+  objTarget->Circle(sngCenterX, sngCenterY, intRadius, lngColor);
+  if (strName.empty()) return;
+  const StyleKeeper keeper(*objTarget);
+  if (sngFontSize > 0) objTarget->FontSize = sngFontSize;
+  const std::string_view first = FirstLine(strName);
+  const float width = objTarget->TextWidth(first);
+  const SurfacePoint wanted{sngCenterX - width / 2, sngCenterY + airportLabelDrop};
+  SurfacePoint place = wanted;
+  if (objLabels != nullptr) place = objLabels->PlaceLabel(wanted.x, wanted.y, first, LabelKind::airport);
+  PrintLabelLines(*objTarget, place, strName);
+  // The point of the first line that is nearest to the symbol.
+  const float nearX = std::clamp(sngCenterX, place.x, place.x + width);
+  const float nearY = std::clamp(sngCenterY, place.y, place.y + objTarget->TextHeight(first));
+  const float away = std::hypot(nearX - sngCenterX, nearY - sngCenterY);
+  if (away < static_cast<float>(intRadius) + nearestJoin) return;
+  const float rim = static_cast<float>(intRadius) / away;
+  objTarget->DrawWidth = 1;
+  objTarget->Line(sngCenterX + (nearX - sngCenterX) * rim, sngCenterY + (nearY - sngCenterY) * rim, nearX,
+                  nearY, lngColor);
 }
 
 void clsNavaid::DrawAsRwy() {
@@ -75,27 +125,17 @@ void clsNavaid::DrawAsRwy() {
   objTarget->Polyline(outline, lngColor);
 }
 
-void clsNavaid::DrawAsVorSymbol() {
-  if (BeyondSymbolRange()) return DrawPoint();
-  const float width = static_cast<float>(intRadius) / 3;
-  const float height = width * 0.87F;
-  const float x = sngCenterX;
-  const float y = sngCenterY;
-  const std::array<SurfacePoint, 7> outline = {{{x - width / 2, y - height},
-                                                {x + width / 2, y - height},
-                                                {x + width, y},
-                                                {x + width / 2, y + height},
-                                                {x - width / 2, y + height},
-                                                {x - width, y},
-                                                {x - width / 2, y - height}}};
-  if (objTarget->FillStyle == FillStyleKind::solid) objTarget->Polygon(outline, objTarget->FillColor);
-  objTarget->Polyline(outline, lngColor);
-  objTarget->Circle(x, y, static_cast<float>(intRadius) / 36, lngColor);
+void clsNavaid::PrintFrequency() {
+  objTarget->Print(FormatPicture(sngFrequency, "000.00") + ' ');
 }
 
-void clsNavaid::DrawAsNDB() {
-  if (BeyondSymbolRange()) return DrawPoint();
-  for (const float part : {2.0F, 3.0F, 6.0F})
-    objTarget->Circle(sngCenterX, sngCenterY, static_cast<float>(intRadius) / part, lngColor);
-  objTarget->PSet(sngCenterX, sngCenterY, lngColor);
+void clsNavaid::DrawAsStaticAC() {
+  const float left = sngCenterX - staticHalf;
+  const float top = sngCenterY - staticHalf;
+  const float right = sngCenterX + staticHalf;
+  const float bottom = sngCenterY + staticHalf;
+  objTarget->Line(left, top, right, top, lngColor);
+  objTarget->Line(right, top, right, bottom, lngColor);
+  objTarget->Line(right, bottom, left, bottom, lngColor);
+  objTarget->Line(left, bottom, left, top, lngColor);
 }

@@ -2,7 +2,10 @@
 // switches that a request by name turns on.
 #include "map/airport_layer.h"
 #include "map/airway_layer.h"
+#include "map/ils_layer.h"
 #include "map/map_layer.h"
+#include "map/radio_layer.h"
+#include "map/waypoint_layer.h"
 #include "map/world_layer.h"
 
 std::vector<MapLayer> DatabaseLayers() {
@@ -29,5 +32,27 @@ std::vector<MapLayer> DatabaseLayers() {
        [](On p) { return p.switches.mnuVictor; },
        DrawVictorAirways,
        {&Flags::mnuVictor}},
+      {LayerPlace::vors, "vor", [](On p) { return p.switches.mnuVOR; }, DrawVors, {&Flags::mnuVOR}},
+      {LayerPlace::pendingIls,
+       "ils",
+       [](On p) { return p.switches.mnuAirport && p.switches.mnuILS && p.RangeNM() <= 200; },
+       DrawPendingIls,
+       {&Flags::mnuAirport, &Flags::mnuILS}},
+      {LayerPlace::ndbs, "ndb", [](On p) { return p.switches.mnuNDB; }, DrawNdbs, {&Flags::mnuNDB}},
+      {LayerPlace::intersections,
+       "intersections",
+       [](On p) { return p.switches.mnuIntersection || p.switches.mnuVictor || p.switches.mnuJet; },
+       DrawIntersections,
+       {&Flags::mnuIntersection}},
+      {LayerPlace::fixes,
+       "fixes",
+       [](On p) { return p.switches.mnuGPSFix && p.RangeNM() <= 150; },
+       DrawFixes,
+       {&Flags::mnuGPSFix}},
+      {LayerPlace::userWaypoints,
+       "userwaypoints",
+       [](On p) { return p.switches.mnuUserWP; },
+       DrawUserWaypoints,
+       {&Flags::mnuUserWP}},
   };
 }

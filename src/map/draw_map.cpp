@@ -15,6 +15,7 @@ void DrawMap(const MapScene& scene, const std::vector<MapLayer>& layers, DrawSur
   surface.Clear(scene.settings.colors.MAP);
   clsNavaid navaid;
   navaid.objTarget = &surface;
+  navaid.objLabels = &scene.labels;
   navaid.rangeNM = scene.view.RangeNM();
   const MapPaint paint{surface,        scene.view,      scene.view.CurrentProjection(),
                        scene.database, scene.settings,  scene.settings.colors,
