@@ -28,6 +28,42 @@ ClipRect OneWorldPage(const Projection& projection, float margin) {
           mapScaleHeight + margin};
 }
 
+std::vector<std::vector<SurfacePoint>> ShapeOnPage(const Projection& projection,
+                                                   std::span<const Position> shape, const ClipRect& page) {
+  struct Point {
+    double lat, lon;
+  };
+  std::vector<Point> whole;
+  whole.reserve(shape.size());
+  double turn = 0;
+  double west = 1e9, east = -1e9, south = 1e9, north = -1e9;
+  double before = 0;
+  for (const Position place : shape) {
+    if (!std::isfinite(place.lat) || !std::isfinite(place.lon)) continue;
+    const double step = place.lon - before;
+    if (!whole.empty() && std::abs(step) > 180) turn += step > 0 ? -360 : 360;
+    before = place.lon;
+    whole.push_back({place.lat, place.lon + turn});
+    west = std::min(west, whole.back().lon);
+    east = std::max(east, whole.back().lon);
+    south = std::min(south, whole.back().lat);
+    north = std::max(north, whole.back().lat);
+  }
+  std::vector<std::vector<SurfacePoint>> appearances;
+  if (whole.empty() || projection.UnroundedY(south) < page.top || projection.UnroundedY(north) > page.bottom)
+    return appearances;
+  for (const double shift : {-360.0, 0.0, 360.0}) {
+    if (projection.UnwrappedX(east + shift) < page.left || projection.UnwrappedX(west + shift) > page.right)
+      continue;
+    std::vector<SurfacePoint>& points = appearances.emplace_back();
+    points.reserve(whole.size());
+    for (const Point point : whole)
+      points.push_back({static_cast<float>(projection.UnwrappedX(point.lon + shift)),
+                        static_cast<float>(projection.UnroundedY(point.lat))});
+  }
+  return appearances;
+}
+
 std::vector<Position> GreatCirclePlaces(Position from, Position to, double stepNM) {
   const double distance = GreatCircleDistance(from.lat, from.lon, to.lat, to.lon);
   const int steps = std::clamp(static_cast<int>(std::ceil(distance / stepNM)), 1, 1000);

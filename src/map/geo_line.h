@@ -1,6 +1,7 @@
 // Lines between two places on the map.
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "map/map_view.h"
@@ -15,6 +16,12 @@ void AppendMapLine(const Projection& projection, Position from, Position to, std
 // The page grown by margin units on each side, but never more than one turn of
 // the world: what is drawn for a turn beside it stays off.
 ClipRect OneWorldPage(const Projection& projection, float margin);
+
+// A shape on the page: its points, once for each turn of the world at which it
+// may touch the rectangle. A shape that crosses the date line stays whole.
+// Points that are no numbers are passed over.
+std::vector<std::vector<SurfacePoint>> ShapeOnPage(const Projection& projection,
+                                                   std::span<const Position> shape, const ClipRect& page);
 
 // The places along the great circle between two places, both ends included, no
 // step longer than about stepNM.

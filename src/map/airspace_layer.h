@@ -1,0 +1,15 @@
+// Control zones, controlled and restricted airspaces, each kind by its own
+// switch, and once more those that the pilot's list holds.
+#pragma once
+
+#include "map/map_layer.h"
+
+// Kinds of airspaces (AirspaceRec::intType); all others go with the controlled ones.
+constexpr std::int16_t controlZone = 1;
+constexpr std::int16_t restrictedAirspace = 3;
+
+void DrawAirspaces(const MapPaint& paint);
+
+// MapSelection::activeAirspaces in HILITE, whatever the switches. Numbers off
+// the table draw nothing.
+void DrawActiveAirspaces(const MapPaint& paint);
