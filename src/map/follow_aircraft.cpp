@@ -28,7 +28,7 @@ bool PeriodicRecentring(MapView& view, std::int32_t& counter, const AircraftFact
 // Keeps the aircraft, and what lies an eighth of the range ahead, on the map.
 bool KeepInFrame(MapView& view, const AircraftFacts& aircraft, const FollowOptions& options) {
   const auto outside = [&](Position place) {
-    return OutsideFrame(view.LonToX(place.lon), view.LatToY(place.lat), options.topLimit);
+    return OutsideFrame(view.LonToX(place.lon), view.LatToY(place.lat), options.frame);
   };
   const auto ahead = [&](float distance) {
     return GreatCircleOffset(aircraft.position.lat, aircraft.position.lon, aircraft.trueHdg, distance);
@@ -41,8 +41,10 @@ bool KeepInFrame(MapView& view, const AircraftFacts& aircraft, const FollowOptio
 
 }  // namespace
 
-bool OutsideFrame(std::int32_t x, std::int32_t y, float topLimit) {
-  return x <= 0 || static_cast<float>(y) <= topLimit || x >= mapScaleWidth || y >= mapScaleHeight;
+bool OutsideFrame(std::int32_t x, std::int32_t y, const FollowFrame& frame) {
+  const auto atX = static_cast<float>(x);
+  const auto atY = static_cast<float>(y);
+  return atX <= frame.left || atY <= frame.top || atX >= frame.right || atY >= frame.bottom;
 }
 
 ZoomAnswer AutomaticZoom(MapView& view, bool airborne) {

@@ -18,13 +18,22 @@ struct AircraftFacts {
   bool connected = false;
 };
 
+// The part of the page that is free for the aircraft: what the window shows of
+// it, from the bottom of pnlFlightplan on while that panel is visible.
+struct FollowFrame {
+  float left = 0;
+  float top = 0;
+  float right = mapScaleWidth;
+  float bottom = mapScaleHeight;
+};
+
 // What the pilot and the window have set.
 struct FollowOptions {
   bool mnuAoM = false;             // the map follows the aircraft
   bool movingMap = false;          // the setting MOVINGMAP: periodic recentring
   std::int16_t MMCOUNTERSET = 10;  // seconds; the calls come twice a second
   bool minimised = false;
-  float topLimit = 0;  // height of pnlFlightplan in map units while it is visible, else 0
+  FollowFrame frame;
 };
 
 struct FollowAnswer {
@@ -39,9 +48,8 @@ struct FollowAnswer {
 FollowAnswer ShowFSPosition(MapView& view, std::int32_t& counter, const AircraftFacts& aircraft,
                             const FollowOptions& options);
 
-// True if a place of the page lies on or outside the frame that is free for
-// the aircraft: x <= 0, y <= topLimit, x >= the page's width, y >= its height.
-bool OutsideFrame(std::int32_t x, std::int32_t y, float topLimit);
+// True if a place of the page lies on the frame or outside it.
+bool OutsideFrame(std::int32_t x, std::int32_t y, const FollowFrame& frame);
 
 // While mnuAutozoom: 2 NM on the ground, 50 NM in the air. Nothing to repaint
 // when the map is there already.

@@ -44,7 +44,14 @@ TEST(OutsideFrame, OnTheFrameIsOutside) {
                         {5000, 7000, 0, true},    {5000, 6999, 0, false}, {5000, 1500, 1500, true},
                         {5000, 1501, 1500, false}};
   for (const Case& c : cases)
-    EXPECT_EQ(OutsideFrame(c.x, c.y, c.top), c.outside) << c.x << ", " << c.y << " top " << c.top;
+    EXPECT_EQ(OutsideFrame(c.x, c.y, {.top = c.top}), c.outside) << c.x << ", " << c.y << " top " << c.top;
+}
+
+TEST(OutsideFrame, OfAWindowThatShowsLessThanThePage) {
+  const FollowFrame frame{0, 315, 11325, 6685};
+  EXPECT_TRUE(OutsideFrame(5000, 315, frame));
+  EXPECT_FALSE(OutsideFrame(5000, 316, frame));
+  EXPECT_TRUE(OutsideFrame(5000, 6685, frame));
 }
 
 TEST(Follow, AnAircraftWellInsideMovesNothing) {
@@ -74,7 +81,7 @@ TEST(Follow, AHighPanelMovesTheTopOfTheFrame) {
   for (const float top : {0.0F, 1399.0F, 1400.0F}) {
     MapView view = ViewAt(0, 0);
     std::int32_t counter = 0;
-    options.topLimit = top;
+    options.frame.top = top;
     ShowFSPosition(view, counter, InFlight({0.5F, 0}, 180), options);
     EXPECT_EQ(view.MapCenterLat, top == 1400 ? 0.5F : 0.0F) << "panel height " << top;
   }
@@ -144,7 +151,7 @@ TEST(Follow, AtAPoleTheHeldBackCentreIsNotPaintedAgainAndAgain) {
   MapView view = ViewAt(80, 0, 13);
   std::int32_t counter = 0;
   FollowOptions options = Following();
-  options.topLimit = 3000;
+  options.frame.top = 3000;
   const AircraftFacts facts = InFlight({89.5F, 0}, 0);
   EXPECT_TRUE(ShowFSPosition(view, counter, facts, options).repaint);
   EXPECT_FALSE(ShowFSPosition(view, counter, facts, options).repaint);
