@@ -65,6 +65,7 @@ std::string MapView::RangeText() const {
 float MapView::LimitCenterLat(float lat) const {
   const Projection projection = CurrentProjection();
   const double halfHeight = static_cast<double>(mapScaleHeight) / MapScale / 2;
+  if (halfHeight > 90) return 0;
   if (projection.YToLat(0) > 90) return static_cast<float>(90 - halfHeight);
   if (projection.YToLat(mapScaleHeight) < -90) return static_cast<float>(halfHeight - 90);
   return lat;
@@ -131,6 +132,13 @@ void MapView::UpdateVisibilityBox() {
   const Projection projection = CurrentProjection();
   MapNorthLat = std::min(projection.YToLat(0) + boxMargin, 90.0F);
   MapSouthLat = std::max(projection.YToLat(mapScaleHeight) - boxMargin, -90.0F);
+  const double pageDegrees = mapScaleWidth / (projection.UnwrappedX(1) - projection.UnwrappedX(0));
+  if (!(pageDegrees + 2 * boxMargin < 360)) {
+    MapWestLon = -180;
+    MapEastLon = 180;
+    MapCrossesDateLine = false;
+    return;
+  }
   MapWestLon = projection.XToLon(0) - boxMargin;
   MapEastLon = projection.XToLon(mapScaleWidth) + boxMargin;
   // A map more than half the world wide can hold the date line with both its
@@ -142,13 +150,21 @@ bool MapView::InView(float lat, float lon, float margin) const {
   if (!(lat < MapNorthLat + margin && lat >= MapSouthLat - margin)) return false;
   const float west = MapWestLon - margin;
   const float east = MapEastLon + margin;
-  return MapCrossesDateLine ? lon >= west || lon <= east : lon >= west && lon <= east;
+  if (MapCrossesDateLine) return lon >= west || lon <= east;
+  // A margin that reaches over the date line goes on behind it.
+  return (lon >= west && lon <= east) || lon - 360 >= west || lon + 360 <= east;
 }
 
 GeoBox MapView::SearchBox(float margin) const {
   GeoBox box{MapSouthLat - margin, MapWestLon - margin, MapNorthLat + margin, MapEastLon + margin};
-  // Grown over each other, or not crossing but out of -180..180: all longitudes.
-  if (MapCrossesDateLine && box.east >= box.west) box.west = -180, box.east = 180;
+  bool crosses = MapCrossesDateLine;
+  if (!crosses && (box.west < -180) != (box.east > 180)) {
+    if (box.west < -180) box.west += 360;
+    if (box.east > 180) box.east -= 360;
+    crosses = true;
+  }
+  // Grown over each other: all longitudes.
+  if (crosses && box.east >= box.west) box.west = -180, box.east = 180;
   box.west = std::max(box.west, -180.0F);
   box.east = std::min(box.east, 180.0F);
   return box;

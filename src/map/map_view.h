@@ -105,7 +105,7 @@ struct MapView {
   float YToLat(double y) const { return CurrentProjection().YToLat(y); }
 
   // lat, or the nearest latitude at which the map at this scale and centre
-  // does not show past a pole.
+  // does not show past a pole. 0 for a page higher than the whole world.
   float LimitCenterLat(float lat) const;
 
   // Takes a row of the zoom table, or refuses it with "Minimum zoom!" or
@@ -115,8 +115,8 @@ struct MapView {
   ZoomAnswer SetZoom(int level, bool clearAutozoom);
 
   // Moves the centre, and the stored aircraft position with it, to the middle of
-  // a box drawn on the map (a click is a box of no size). A box more than 200 units high also brings the zoom row whose
-  // range is nearest to its height.
+  // a box drawn on the map (a click is a box of no size). A box more than 200 units high also brings the zoom
+  // row whose range is nearest to its height.
   void RecentreOnBox(float x1, float y1, float x2, float y2);
 
   // Key F12: the centre takes the stored aircraft position.
@@ -126,11 +126,13 @@ struct MapView {
   // a degree of latitude or longitude from the last look-up. True if it did.
   bool RefreshMagVar(const MagneticVariationGrid& variation);
 
-  // Before a repaint: limits the centre and works out the visibility box.
+  // Before a repaint: limits the centre and works out the visibility box. On a
+  // page as wide as the world or wider it holds all longitudes.
   void UpdateVisibilityBox();
 
   // True if a point lies in the visibility box grown by margin degrees: below
-  // the north edge, at or above the south edge.
+  // the north edge, at or above the south edge, between west and east the way
+  // the box lies around the world.
   bool InView(float lat, float lon, float margin) const;
 
   // The visibility box grown by margin, for the place indexes; never misses a

@@ -98,7 +98,10 @@ TEST(LimitCenterLat, KeepsThePolesAtTheEdge) {
                         {89, 13, 90 - 7000.0 / 1050 / 2},
                         {-89, 13, 7000.0 / 1050 / 2 - 90},
                         {70, 20, 90 - 7000.0 / 105 / 2},
-                        {90 - 3.4F, 13, 90 - 3.4}};
+                        {90 - 3.4F, 13, 90 - 3.4},
+                        {-90, 0, 3500.0 / 420000 - 90},
+                        {90, 21, 90 - 3500.0 / 80},
+                        {-60, 21, 3500.0 / 80 - 90}};
   for (const Case& c : cases)
     EXPECT_NEAR(MapView::At(c.lat, 0, c.row).LimitCenterLat(c.lat), c.limited, 1e-4)
         << c.lat << " row " << c.row;
@@ -258,16 +261,85 @@ TEST(VisibilityBox, MoreThanHalfTheWorldIsNotEmpty) {
   EXPECT_FALSE(view.InView(55, -100, 0));
 }
 
+TEST(VisibilityBox, AMarginOverTheDateLineGoesOnBehindIt) {
+  struct Case {
+    float west, east;
+    float lon, margin;
+    bool inside;
+  };
+  const Case cases[] = {{-180.3F, -170, 179.8F, 0, true},    {-180.3F, -170, 179.6F, 0, false},
+                        {-179.0F, -170, 179.6F, 1.5F, true}, {-179.0F, -170, 179.4F, 1.5F, false},
+                        {170, 180.3F, -179.8F, 0, true},     {170, 179, -179.6F, 1.5F, true},
+                        {170, 179, -179.4F, 1.5F, false},    {-170, 170, 180, 1.5F, false}};
+  for (const Case& c : cases) {
+    MapView view;
+    view.MapNorthLat = 10;
+    view.MapSouthLat = -10;
+    view.MapWestLon = c.west;
+    view.MapEastLon = c.east;
+    EXPECT_EQ(view.InView(0, c.lon, c.margin), c.inside) << c.west << " to " << c.east << ": " << c.lon;
+  }
+}
+
+// The first longitude that the page shows and the box does not hold; NaN if there is none.
+float FirstMissedLongitude(const MapView& view) {
+  const Projection projection = view.CurrentProjection();
+  const double halfWorld = 180 * (projection.UnwrappedX(1) - projection.UnwrappedX(0));
+  for (double x = 0; x <= mapScaleWidth; x += 75) {
+    const float lon = projection.XToLon(x);
+    const bool shown = std::abs(x - mapScaleWidth / 2.0) < halfWorld;
+    if (shown && !view.InView(view.MapCenterLat, lon, 0)) return lon;
+  }
+  return std::numeric_limits<float>::quiet_NaN();
+}
+
+TEST(VisibilityBox, HoldsAllThatThePageShows) {
+  for (const float lat : {-90.0F, -60.0F, 0.0F, 33.0F, 71.0F, 90.0F}) {
+    for (float lon = -180; lon <= 180; lon += 7.5F) {
+      for (const int scale : {9, 20, 31, 32, 40, 80, 105, 233, 1050, 42000}) {
+        MapView view;
+        view.MapCenterLat = lat;
+        view.MapCenterLon = lon;
+        view.MapScale = scale;
+        view.UpdateVisibilityBox();
+        const float missed = FirstMissedLongitude(view);
+        EXPECT_TRUE(std::isnan(missed)) << lat << ", " << lon << " scale " << scale << ": " << missed;
+      }
+    }
+  }
+}
+
+TEST(VisibilityBox, APageWiderThanTheWorldHoldsAllLongitudesOnce) {
+  // 11325 units at 20 a degree are 566 degrees.
+  for (const float lon : {-180.0F, -100.0F, 0.0F, 179.0F}) {
+    MapView view;
+    view.MapCenterLon = lon;
+    view.MapScale = 20;
+    view.UpdateVisibilityBox();
+    EXPECT_FALSE(view.MapCrossesDateLine);
+    EXPECT_EQ(view.MapCenterLat, 0) << "higher than the world, too";
+    for (float at = -180; at <= 180; at += 1) {
+      EXPECT_TRUE(view.InView(0, at, 0)) << at;
+      EXPECT_LE(std::abs(view.LonToX(at) - 5662), 20 * 180 + 1) << at;
+    }
+    const GeoBox box = view.SearchBox(navaidMargin);
+    EXPECT_EQ(box.west, -180);
+    EXPECT_EQ(box.east, 180);
+  }
+}
+
 TEST(SearchBox, NeverMissesAPointInView) {
-  for (const float lon : {-179.0F, -90.0F, 0.0F, 85.0F, 150.0F, 180.0F}) {
+  for (float lon = -180; lon <= 180; lon += 2.5F) {
     for (const int row : {6, 13, 19, 20, 21}) {
-      const MapView view = ViewAt(45, lon, row);
-      const GeoBox box = view.SearchBox(navaidMargin);
-      for (float at = -180; at <= 180; at += 0.5F) {
-        if (!view.InView(45, at, navaidMargin)) continue;
-        const bool found =
-            box.west <= box.east ? at >= box.west && at <= box.east : at >= box.west || at <= box.east;
-        EXPECT_TRUE(found) << "centre " << lon << " row " << row << " at " << at;
+      for (const float margin : {0.0F, navaidMargin}) {
+        const MapView view = ViewAt(45, lon, row);
+        const GeoBox box = view.SearchBox(margin);
+        for (float at = -180; at <= 180; at += 0.5F) {
+          if (!view.InView(45, at, margin)) continue;
+          const bool found =
+              box.west <= box.east ? at >= box.west && at <= box.east : at >= box.west || at <= box.east;
+          EXPECT_TRUE(found) << "centre " << lon << " row " << row << " at " << at;
+        }
       }
     }
   }
