@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "base/numbers.h"
+#include "map/style_keeper.h"
 
 namespace {
 
@@ -60,7 +60,7 @@ AircraftSymbol SetPlane(const MapView& view, Position position, float trueHeadin
 }
 
 void DrawAircraft(const AircraftSymbol& symbol, std::int32_t color, DrawSurface& surface) {
-  const SurfaceStyle before = surface;
+  const StyleKeeper keeper(surface);
   surface.ResetStyle();
   surface.DrawWidth = 1.3F;
   surface.Line(symbol.centre.x, symbol.centre.y, symbol.vectorEnd.x, symbol.vectorEnd.y, color);
@@ -70,5 +70,4 @@ void DrawAircraft(const AircraftSymbol& symbol, std::int32_t color, DrawSurface&
   surface.CurrentX = symbol.centre.x + tagDistance;
   surface.CurrentY = symbol.centre.y + tagDistance;
   surface.Print(symbol.tag);
-  static_cast<SurfaceStyle&>(surface) = before;
 }

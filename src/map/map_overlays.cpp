@@ -4,6 +4,7 @@
 #include <array>
 
 #include "map/geo_line.h"
+#include "map/style_keeper.h"
 
 namespace {
 
@@ -13,19 +14,6 @@ constexpr float pointerGap = 130;  // between the pointer and a plate
 constexpr float pageMargin = 30;   // that a plate keeps from the page's edge
 constexpr float plateOpacity = 0.92F;
 constexpr float edgeOpacity = 0.45F;
-
-// Restores the style that the overlay found.
-class StyleKeeper {
- public:
-  explicit StyleKeeper(DrawSurface& surface) : surface(surface), before(surface) { surface.ResetStyle(); }
-  ~StyleKeeper() { static_cast<SurfaceStyle&>(surface) = before; }
-  StyleKeeper(const StyleKeeper&) = delete;
-  StyleKeeper& operator=(const StyleKeeper&) = delete;
-
- private:
-  DrawSurface& surface;
-  SurfaceStyle before;
-};
 
 struct Plate {
   float x, y, width, height;
@@ -96,6 +84,7 @@ float HoverBoxWidth(int fontSize) {
 void DrawPlate(std::string_view text, float x, float y, std::int32_t color, const ColorSettings& colors,
                DrawSurface& surface) {
   const StyleKeeper keeper(surface);
+  surface.ResetStyle();
   const float height = surface.TextHeight(text) + padding;
   const float width = surface.TextWidth(text) + 2 * padding;
   const Plate plate{Held(x, width, surface.ScaleWidth()), Held(y, height, surface.ScaleHeight()), width,
@@ -111,6 +100,7 @@ void DrawMeasureLine(const MeasureLine& line, const MapView& view, const ColorSe
                      DrawSurface& surface, bool withCaption) {
   if (!line.visible) return;
   const StyleKeeper keeper(surface);
+  surface.ResetStyle();
   surface.DrawWidth = 1.5F;
   DrawMapLine({line.MeasureStartLat, line.MeasureStartLon}, {line.MeasureEndLat, line.MeasureEndLon}, view,
               colors.MEASURE, surface);
@@ -122,6 +112,7 @@ void DrawMeasureLine(const MeasureLine& line, const MapView& view, const ColorSe
 void DrawDragBox(const DragBox& box, const ColorSettings& colors, DrawSurface& surface) {
   if (!box.BoxActive) return;
   const StyleKeeper keeper(surface);
+  surface.ResetStyle();
   surface.DrawWidth = 1.2F;
   const std::array<SurfacePoint, 5> corners = {{{box.BoxX1, box.BoxY1},
                                                 {box.BoxX2, box.BoxY1},
@@ -134,6 +125,7 @@ void DrawDragBox(const DragBox& box, const ColorSettings& colors, DrawSurface& s
 void DrawBearingLine(Position anchor, float x, float y, std::string_view text, const MapView& view,
                      const ColorSettings& colors, DrawSurface& surface) {
   const StyleKeeper keeper(surface);
+  surface.ResetStyle();
   const Position pointer{view.YToLat(y), view.XToLon(x)};
   DrawMapLine(anchor, pointer, view, colors.ROUTE, surface);
   if (!text.empty()) DrawPlate(text, x + pointerGap, y + pointerGap, colors.AP, colors, surface);
@@ -143,6 +135,7 @@ void DrawHoverBox(const std::vector<HoverLine>& all, float x, float y, const Set
                   DrawSurface& surface) {
   if (all.empty()) return;
   const StyleKeeper keeper(surface);
+  surface.ResetStyle();
   const ColorSettings& colors = settings.colors;
   surface.FontSize = HoverFontSize(settings.FONTSIZE);
   const float lineHeight = surface.TextHeight("Ag") * 1.12F;

@@ -68,13 +68,21 @@ inline UserWaypointRec UserAt(float lat, float lon, std::string_view code) {
   return row;
 }
 
+// Within -180..180.
+inline float WrappedLon(float lon) {
+  if (lon > 180) return lon - 360;
+  return lon < -180 ? lon + 360 : lon;
+}
+
 inline AirspaceRec AirspaceAt(float lat, float lon, std::string_view name, std::int16_t kind) {
   AirspaceRec row;
   row.intType = kind;
   row.strName = name;
   row.sngLat = lat;
   row.sngLon = lon;
-  row.points = {{lat - 1, lon - 1}, {lat - 1, lon + 1}, {lat + 1, lon + 1}, {lat + 1, lon - 1}};
+  const float west = WrappedLon(lon - 1);
+  const float east = WrappedLon(lon + 1);
+  row.points = {{lat - 1, west}, {lat - 1, east}, {lat + 1, east}, {lat + 1, west}};
   return row;
 }
 
