@@ -162,8 +162,9 @@ SurfacePoint modDeclutter::CellToPoint(std::int32_t cell, float x, float y, std:
   }
 }
 
-std::string ReciprocalDesignator(const std::string& designator) {
-  const int number = CutToInt(Val(std::string_view(designator).substr(0, 2)));
+std::string ReciprocalDesignator(std::string_view designator) {
+  designator = Trimmed(designator);
+  const int number = CutToInt(Val(designator.substr(0, 2)));
   if (number > 0) {
     std::string reciprocal = std::to_string(number + 18 > 36 ? number - 18 : number + 18);
     const char letter = designator.back();
@@ -175,6 +176,6 @@ std::string ReciprocalDesignator(const std::string& designator) {
   constexpr std::pair<std::string_view, std::string_view> opposites[] = {
       {"N", "S"}, {"S", "N"}, {"E", "W"}, {"W", "E"}, {"NE", "SW"}, {"SW", "NE"}, {"SE", "NW"}, {"NW", "SE"}};
   for (const auto& [word, opposite] : opposites)
-    if (designator == word) return std::string(opposite);
+    if (designator.substr(0, 2) == word) return std::string(opposite);
   return {};
 }

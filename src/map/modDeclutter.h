@@ -62,4 +62,4 @@ class modDeclutter {
 // The ident of a runway's other end: "09L" gives "27R", "36" gives "18", the
 // compass words "N", "NE" and so on their opposites. The number is written
 // without a leading zero; anything else comes back empty.
-std::string ReciprocalDesignator(const std::string& designator);
+std::string ReciprocalDesignator(std::string_view designator);
