@@ -83,6 +83,9 @@ struct Settings {
   // Find
   std::int16_t CLOSE = 0;
   std::int16_t SHOW = 0;
+  // Window: of the map window when it is not maximised, in pixels; 0: never stored
+  std::int32_t WIDTH = 0;
+  std::int32_t HEIGHT = 0;
   // What the main window keeps of its menus and ribbons: bits by map/switch_settings.h.
   std::int32_t BUTTON = 1;
   std::int32_t MENU = 9661;

@@ -145,6 +145,8 @@ void VisitRest(SettingsType& s, Visitor&& key) {
   key("FS", "FSX", s.FSX);
   key("FIND", "CLOSE", s.CLOSE);
   key("FIND", "SHOW", s.SHOW);
+  key("WINDOW", "WIDTH", s.WIDTH);
+  key("WINDOW", "HEIGHT", s.HEIGHT);
 }
 
 template <class SettingsType, class Visitor>

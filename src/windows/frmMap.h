@@ -1,6 +1,10 @@
-// The main window: the map with its menus, ribbons and status panels, and the
+// The main window: the map with its menus, ribbon and status panels, and the
 // plan beside it. It turns what the pilot does into calls of the floors below
 // and shows what they answer; it holds no rule of its own.
+//
+// frmMap.cpp has the window and the view, frmMap_menus.cpp the menus, bars and
+// keys, frmMap_panels.cpp the status panels, frmMap_gestures.cpp what the
+// pointer does on the map, frmMap_plan.cpp the plan.
 #pragma once
 
 #include <QAction>
@@ -14,11 +18,17 @@
 #include "flightplan/airway_search.h"
 #include "flightplan/plan_context.h"
 #include "flightplan/route_generation.h"
+#include "map/drag_box.h"
 #include "map/draw_map.h"
+#include "map/hover.h"
+#include "map/measure_line.h"
+#include "map/pointer_panel.h"
 #include "platform/pointer_shape.h"
 #include "startup/session.h"
 #include "windows/map_canvas.h"
 #include "windows/pnlFlightplan.h"
+#include "windows/status_strip.h"
+#include "windows/toggle_ribbon.h"
 
 class frmMap : public QMainWindow {
   Q_OBJECT
@@ -37,32 +47,84 @@ class frmMap : public QMainWindow {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  // Menus, bars, keys.
   void BuildMenus();
+  void BuildPlanMenu();
   void BuildAircraftMenu();
+  void BuildViewMenu();
+  void BuildPanelsMenu(QMenu* view);
+  void BuildLabelsMenu();
+  void BuildZoomMenu();
+  void BuildToolsMenu();
   void BuildToolBar();
-  void BuildStatusStrip(class QVBoxLayout* layout);
+  void BuildRibbon();
   void BuildKeys();
-  void ConnectCanvas();
-  QAction* AddCommand(const QString& name, const QString& text, std::function<void()> command);
-  QAction* AddSwitch(const QString& menuName, const QString& text, bool MapSwitches::*flag);
+  QAction* AddCommand(const QString& name, const QString& text, std::function<void()> command,
+                      const QString& keys = {});
+  QAction* AddToggle(const QString& name, const QString& text, bool on, std::function<void(bool)> toggled,
+                     const QString& keys = {});
+  // A switch of the map that changes its picture.
+  QAction* AddSwitch(const QString& name, const QString& text, bool MapSwitches::*flag,
+                     const QString& keys = {});
   void AddButton(class QToolBar* bar, QAction* action, const QString& name, const QString& text,
-                 const QString& tip);
+                 const QString& icon);
 
+  // The view.
   void Trapped(std::string_view head, const std::function<void()>& body);
+  void OpenView();
+  void OpenWindow();
+  void ConnectCanvas();
   void DrawMap();
+  void PaintPicture(DrawSurface& surface);
   void KeyDown(int key);
   void SetZoom(int level, bool clearAutozoom);
-  void TakeBox(float x1, float y1, float x2, float y2);
+  void TurnWheel(int stepsTowardUser);
   void Pan(float right, float down);
+  void CentreOnAircraft();
   void CentreMoved();
+  void EndAutozoom();
+
+  // The status panels.
+  void BuildPanels();
+  void PanelClicked(int panel, Qt::MouseButton button);
+  void ShowClock();
   void ShowZoom();
   void ShowPosition();
-  void ShowPointer(float x, float y);
-  void ShowClock();
+  void ShowPointer();
+  void StepPointerMode();
+
+  // What the pointer does on the map.
+  QLabel* AddMapLabel(const QString& name);
+  void ButtonDown(float x, float y);
+  void ButtonUp(float x, float y, bool shift);
+  void PointerMoved(float x, float y);
+  void PointerLeft();
+  void ShowRibbon(bool on);
+  void TakeBox(float x1, float y1, float x2, float y2);
+  void SetMeasuring(bool on);
+  void MeasureFrom(float x, float y);
+  void FollowPointer();
+  void GiveUpGestures();
+  void MousePosTick();
+  void CloseHover();
+  HoverQuestion Question(float x, float y) const;
+  void OpenMapMenu(float x, float y, const QPoint& global);
+  void AddObjects(QMenu& menu, float x, float y);
+  void Highlight(const MapSelection& chosen);
+  // The row of the plan whose leg is held against the pointer; -1: none.
+  int LegPickIndex() const;
+  std::optional<PickedLeg> Leg() const;
+  void DrawOverlay(DrawSurface& surface);
+  void DrawPlates(DrawSurface& surface);
+  void PlaceMapLabels();
+  Position PointerPosition() const;
+
+  // The plan.
   void GenerateRoute(AirwayNetwork network);
   void TakeAircraft(const AircraftRec& aircraft);
   void NewPlan();
@@ -72,16 +134,39 @@ class frmMap : public QMainWindow {
   PlanContext Context() const;
   QString PlanFolder() const;
 
+  // There is no link to a simulator yet.
+  static constexpr bool connected = false;
+
   Session& session;
   MessageBox& messages;
   PointerShape& pointer;
   AirwaySearch search;
   std::vector<MapLayer> layers;
+  std::vector<HoverSource> hoverSources;
 
   MapCanvas* Map;
+  ToggleRibbon* pnlToggleButtons;
+  QLabel* lblMeasure;
+  QLabel* lblCourseRadial;
+  StatusStrip* lblMapStatus;
   pnlFlightplan* panel;
   std::map<QString, QAction*> actions;  // by menu name
-  std::array<QLabel*, 6> lblMapStatus{};
   QActionGroup* aircraftGroup;
   QTimer tmrClock;
+  QTimer tmrMousePos;
+  QTimer tmrModeName;  // runs while panel 5 shows its mode's name
+  bool opened = false;
+
+  DragBox box;
+  MeasureLine measure;
+  bool measureFollows = false;  // begun from the menu: the line follows without a button
+  HoverRest rest;
+  std::vector<HoverLine> hoverLines;
+  bool hoverSearched = false;  // since the pointer came to rest
+  bool pointerOnMap = false;
+  bool pointerSeen = false;  // it has been on the map
+  SurfacePoint pointerAt;    // last known, map units
+  CursorPanelMode cursorPanelMode = CursorPanelMode::coordinates;
+  PositionFormat positionFormat = PositionFormat::degreesMinutes;
+  bool clockUtc = true;
 };

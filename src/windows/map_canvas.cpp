@@ -1,21 +1,46 @@
 #include "windows/map_canvas.h"
 
+#include <QContextMenuEvent>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
+#include "windows/qt_painter_surface.h"
+#include "windows/style.h"
+
 namespace {
 
 constexpr float panPart = 0.2F;
-constexpr int wheelNotch = 120;
+constexpr int wheelStep = 120;
 // A hand that shakes while it clicks draws no box.
 constexpr double clickTolerance = 3;
+
+// The surface of a page cut to what is seen of it.
+class VisiblePage : public QtPainterSurface {
+ public:
+  VisiblePage(QPainter& painter, const PagePlacement& placement, SurfacePoint size)
+      : QtPainterSurface(painter, placement), size(size) {
+    painter.save();
+    painter.translate(-placement.ToPixel(0, 0));
+  }
+  ~VisiblePage() override { painter.restore(); }
+  VisiblePage(const VisiblePage&) = delete;
+  VisiblePage& operator=(const VisiblePage&) = delete;
+
+  float ScaleWidth() const override { return size.x; }
+  float ScaleHeight() const override { return size.y; }
+
+ private:
+  SurfacePoint size;
+};
 
 }  // namespace
 
 MapCanvas::MapCanvas(QWidget* parent) : QWidget(parent) {
   setObjectName("Map");
+  setAccessibleName(tr("Map"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
@@ -37,7 +62,6 @@ void MapCanvas::DrawAnew() {
   const double density = devicePixelRatioF();
   const QSize pixels = size() * density;
   if (VMap0.size() != pixels) VMap0 = QImage(pixels, QImage::Format_RGB32);
-  VMap0.setDevicePixelRatio(1);
   QtDrawSurface surface(VMap0, density);
   if (drawPicture) drawPicture(surface);
 }
@@ -46,52 +70,66 @@ void MapCanvas::paintEvent(QPaintEvent*) {
   if (stale) DrawAnew();
   QPainter painter(this);
   painter.drawImage(rect(), VMap0);
-  if (!BoxActive) return;
-  painter.setPen(QPen(boxColor, 1.5));
-  painter.setBrush(QColor(boxColor.red(), boxColor.green(), boxColor.blue(), 28));
-  painter.drawRect(QRectF(boxStart, boxEnd).normalized());
+  if (drawOverlay) {
+    QtPainterSurface surface(painter, Placement());
+    drawOverlay(surface);
+  }
+  if (drawPlates) {
+    VisiblePage page(painter, Placement(), VisibleUnits());
+    drawPlates(page);
+  }
+  if (focusShown) {
+    painter.setPen(QPen(FocusColor(), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
 }
 
 void MapCanvas::resizeEvent(QResizeEvent*) {
   MarkStale();
+  Q_EMIT Resized();
 }
 
 void MapCanvas::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  BoxActive = true;
-  boxStart = boxEnd = event->position();
+  leftDown = true;
+  pressedAt = event->position();
+  const SurfacePoint pointer = Placement().ToUnits(pressedAt);
+  Q_EMIT ButtonDown(pointer.x, pointer.y);
 }
 
 void MapCanvas::mouseMoveEvent(QMouseEvent* event) {
   if (wheelZooms && !hasFocus()) setFocus(Qt::MouseFocusReason);
   const SurfacePoint pointer = Placement().ToUnits(event->position());
   Q_EMIT PointerMoved(pointer.x, pointer.y);
-  if (!BoxActive) return;
-  boxEnd = event->position();
-  Q_EMIT BoxMoved();
-  update();
 }
 
 void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !BoxActive) return;
-  BoxActive = false;
-  boxEnd = event->position();
-  update();
-  if (event->modifiers() & Qt::ShiftModifier) return;
-  if ((boxEnd - boxStart).manhattanLength() <= clickTolerance) boxEnd = boxStart;
-  const SurfacePoint from = Placement().ToUnits(boxStart);
-  const SurfacePoint to = Placement().ToUnits(boxEnd);
-  Q_EMIT BoxDrawn(from.x, from.y, to.x, to.y);
+  if (event->button() != Qt::LeftButton || !leftDown) return;
+  leftDown = false;
+  const bool click = (event->position() - pressedAt).manhattanLength() <= clickTolerance;
+  const SurfacePoint pointer = Placement().ToUnits(click ? pressedAt : event->position());
+  Q_EMIT ButtonUp(pointer.x, pointer.y, event->modifiers().testFlag(Qt::ShiftModifier));
+}
+
+void MapCanvas::leaveEvent(QEvent*) {
+  Q_EMIT PointerLeft();
+}
+
+void MapCanvas::contextMenuEvent(QContextMenuEvent* event) {
+  const bool byPointer = event->reason() == QContextMenuEvent::Mouse;
+  const QPoint at = byPointer ? event->pos() : rect().center();
+  const SurfacePoint pointer = Placement().ToUnits(at);
+  Q_EMIT MenuAsked(pointer.x, pointer.y, mapToGlobal(at));
 }
 
 void MapCanvas::wheelEvent(QWheelEvent* event) {
   if (!wheelZooms) return event->ignore();
-  wheelSteps += event->angleDelta().y();
   event->accept();
-  if (std::abs(wheelSteps) < wheelNotch) return;
-  const bool towardUser = wheelSteps < 0;
-  wheelSteps = 0;
-  Q_EMIT WheelTurned(towardUser);
+  wheelDelta += event->angleDelta().y();
+  const int steps = wheelDelta / wheelStep;
+  wheelDelta -= steps * wheelStep;
+  if (steps != 0) Q_EMIT StepsTurned(-steps);
 }
 
 void MapCanvas::keyPressEvent(QKeyEvent* event) {
@@ -107,4 +145,14 @@ void MapCanvas::keyPressEvent(QKeyEvent* event) {
     default:
       QWidget::keyPressEvent(event);
   }
+}
+
+void MapCanvas::focusInEvent(QFocusEvent* event) {
+  focusShown = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  update();
+}
+
+void MapCanvas::focusOutEvent(QFocusEvent*) {
+  focusShown = false;
+  update();
 }

@@ -1,12 +1,17 @@
 // The picture of the map in the main window ("Map"): it keeps the last
-// finished picture (VMap(0)) and shows it with the drag box above. It knows
-// pixels and map units, not what is drawn: the painter is handed in.
+// finished picture (VMap(0)) and shows it with an overlay above: the measuring
+// line, boxes, what moves with the pointer. It knows pixels and map units, not
+// what is drawn nor what a gesture means: the painters are handed in, the
+// gestures are told in map units.
+//
+// However much input comes between two frames, the picture is drawn once: a
+// change only marks it, and the next frame draws it whole before anything of
+// it is seen. The overlay never costs a drawing of the picture.
 #pragma once
 
 #include <QImage>
 #include <QWidget>
 #include <functional>
-#include <optional>
 
 #include "platform/draw_surface.h"
 #include "windows/qt_draw_surface.h"
@@ -18,23 +23,33 @@ class MapCanvas : public QWidget {
   explicit MapCanvas(QWidget* parent = nullptr);
 
   std::function<void(DrawSurface&)> drawPicture;  // the full repaint
-  bool wheelZooms = false;
-  QColor boxColor = Qt::red;
+  std::function<void(DrawSurface&)> drawOverlay;  // above a copy of the picture
+  // Above everything, on a page that is just what is seen: its width and height
+  // are VisibleUnits() and its origin is VisibleCorner().
+  std::function<void(DrawSurface&)> drawPlates;
+  bool wheelZooms = false;  // and the focus follows the pointer
 
   // The picture is drawn anew before it is next shown.
   void MarkStale();
-  // What can be seen of the page, in map units.
+  // What can be seen of the page, in map units: its size, and its top left corner.
   SurfacePoint VisibleUnits() const;
+  SurfacePoint VisibleCorner() const { return Placement().ToUnits({0, 0}); }
+  // Where a point of the page is in the widget.
+  QPoint ToPixel(float x, float y) const { return Placement().ToPixel(x, y).toPoint(); }
   const QImage& Picture() const { return VMap0; }
 
  Q_SIGNALS:
-  // Left button down and up, in map units; a click is a box of no size.
-  void BoxDrawn(float x1, float y1, float x2, float y2);
-  void BoxMoved();
+  // The left button, in map units. A click ends where it began, however the hand shook.
+  void ButtonDown(float x, float y);
+  void ButtonUp(float x, float y, bool shift);
   void PointerMoved(float x, float y);
-  void WheelTurned(bool towardUser);
+  void PointerLeft();
+  // Right click, or the keyboard's own request (then at the middle).
+  void MenuAsked(float x, float y, const QPoint& global);
+  void StepsTurned(int towardUser);  // of the wheel, never 0
   // Arrow keys: parts of the page to move the centre by.
   void PanAsked(float right, float down);
+  void Resized();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -42,8 +57,12 @@ class MapCanvas : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   void DrawAnew();
@@ -51,8 +70,8 @@ class MapCanvas : public QWidget {
 
   QImage VMap0;
   bool stale = true;
-  bool BoxActive = false;
-  QPointF boxStart;
-  QPointF boxEnd;
-  int wheelSteps = 0;
+  bool leftDown = false;
+  bool focusShown = false;  // reached by the Tab key
+  QPointF pressedAt;
+  int wheelDelta = 0;  // turned, but not a whole step yet
 };

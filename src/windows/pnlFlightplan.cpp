@@ -153,6 +153,7 @@ void pnlFlightplan::TakeSelection() {
   const QModelIndexList rows = grdWPTable->selectionModel()->selectedRows();
   plan.SelectedRow = rows.isEmpty() ? std::int16_t{0} : static_cast<std::int16_t>(rows.first().row());
   ShowHint();
+  Q_EMIT RowPicked();
 }
 
 void pnlFlightplan::ShowHint() {
@@ -166,7 +167,8 @@ void pnlFlightplan::ShowHint() {
 
 bool pnlFlightplan::eventFilter(QObject* watched, QEvent* event) {
   if (watched == grdWPTable && event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+      grdWPTable->selectionModel()->hasSelection()) {
     grdWPTable->clearSelection();
     return true;
   }
@@ -176,7 +178,7 @@ bool pnlFlightplan::eventFilter(QObject* watched, QEvent* event) {
 void pnlFlightplan::Refresh() {
   // The reset takes the selection away without telling; the plan's own row stays the truth.
   model->Refresh();
-  if (plan.SelectedRow > 0 && plan.SelectedRow < plan.DestinationRow())
+  if (plan.SelectedRow > 0 && plan.SelectedRow <= plan.DestinationRow())
     grdWPTable->selectRow(plan.SelectedRow);
   const bool filed = plan.RowCount() >= 2;
   lblPlanTitle->setText(filed ? CodeAt(plan, 0) + "  →  " + CodeAt(plan, plan.DestinationRow())

@@ -40,7 +40,8 @@ class pnlFlightplan : public QFrame {
   void Refresh();
 
  Q_SIGNALS:
-  void AirportsAsked();
+  // Another row is selected, or none.
+  void RowPicked();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -14,6 +14,7 @@ constexpr QRgb ground = qRgb(17, 22, 31);
 constexpr QRgb raised = qRgb(25, 32, 44);
 constexpr QRgb text = qRgb(223, 229, 238);
 constexpr QRgb quietText = qRgb(140, 152, 170);
+constexpr QRgb disabledText = qRgb(92, 102, 118);
 constexpr QRgb accent = qRgb(64, 132, 214);
 
 QPalette DarkPalette() {
@@ -30,7 +31,7 @@ QPalette DarkPalette() {
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::Link, qRgb(120, 176, 240));
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    palette.setColor(QPalette::Disabled, role, qRgb(92, 102, 118));
+    palette.setColor(QPalette::Disabled, role, disabledText);
   return palette;
 }
 
@@ -62,11 +63,16 @@ QLineEdit { background: #0d1118; border: 1px solid #334155; border-radius: 5px; 
 QLineEdit:focus { border-color: #4084d6; }
 QFrame#statusStrip { background: #111620; border-top: 1px solid #232c3a; }
 QFrame#statusStrip QLabel { color: #a7b3c4; padding: 0 12px; border-right: 1px solid #232c3a; }
+QFrame#statusStrip QLabel[mood="to"] { color: #f4897b; }
+QFrame#statusStrip QLabel[mood="from"] { color: #82b4f7; }
+QFrame#pnlToggleButtons { background: rgba(17, 22, 32, 238); border: 1px solid #2c3748; border-top: none; border-bottom-left-radius: 8px; border-bottom-right-radius: 8px; }
+QFrame#pnlToggleButtons QToolButton { padding: 0; }
 QFrame#pnlFlightplan { background: #111620; border-left: 1px solid #232c3a; }
 QFrame#pnlFlightplan QLabel#lblPlanTitle { font-size: 19px; font-weight: 600; color: #f1f5fa; }
 QLabel[quiet="true"] { color: #8c98aa; }
 QLabel[fault="true"] { color: #f08a7c; }
 QLabel[figure="true"] { font-size: 15px; color: #dfe5ee; }
+QLabel[plate="true"] { background: rgba(17, 22, 32, 232); border: 1px solid #33425a; border-radius: 4px; padding: 3px 7px; color: #eef3fa; }
 QTableView { border: none; background: #0f141c; alternate-background-color: #121822; gridline-color: #1d2531; outline: none; }
 QTableView::item { padding: 0 6px; border: none; }
 QTableView::item:selected { background: #1f3a5e; color: #ffffff; }
@@ -85,6 +91,16 @@ QFont MapFont() {
   font.setFamilies(FontStack());
   font.setHintingPreference(QFont::PreferVerticalHinting);
   return font;
+}
+
+QColor IconColor(QIcon::Mode mode, QIcon::State state) {
+  if (mode == QIcon::Disabled) return QColor::fromRgb(disabledText);
+  if (state == QIcon::On) return QColor::fromRgb(qRgb(232, 241, 252));
+  return QColor::fromRgb(mode == QIcon::Active ? qRgb(255, 255, 255) : qRgb(185, 196, 211));
+}
+
+QColor FocusColor() {
+  return QColor::fromRgb(accent);
 }
 
 void ApplyStyle(QApplication& application) {

@@ -5,9 +5,16 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
 
 // The font of the map's texts; QtDrawSurface sets its size.
 QFont MapFont();
+
+// The colour of a line drawing on a button in this state.
+QColor IconColor(QIcon::Mode mode, QIcon::State state);
+
+// The frame around what has the keyboard.
+QColor FocusColor();
 
 // Palette, font and style sheet for every window.
 void ApplyStyle(QApplication& application);

@@ -1,53 +1,19 @@
 #include "windows/frmMap.h"
 
-#include <gtest/gtest.h>
-
-#include <QAction>
-#include <QApplication>
 #include <QPushButton>
-#include <QTest>
-#include <QToolButton>
-#include <QWheelEvent>
+#include <QShortcut>
+#include <QTableView>
 #include <set>
 
 #include "base/files.h"
 #include "settings/settings_file.h"
-#include "tests/temporary_folder.h"
-#include "tests/windows/window_world.h"
+#include "tests/windows/map_window.h"
 #include "windows/frmSelectAP.h"
 
 namespace {
 
-class NoPointer : public PointerShape {
- public:
-  void SetHourglass(bool on) override { depth += on ? 1 : -1; }
-  int depth = 0;
-};
-
-class Window : public testing::Test {
+class Window : public MapWindow {
  protected:
-  Window() : session(AppFolder(folder.Path())) {
-    session.database = std::move(world.database);
-    session.aircraft = SlowTwin();
-    session.aircraftList = {session.aircraft};
-  }
-
-  frmMap& Open() {
-    window = std::make_unique<frmMap>(session, messages, pointer);
-    window->show();
-    QApplication::processEvents();
-    return *window;
-  }
-
-  template <class Control>
-  Control& Find(const QString& name) {
-    auto* control = window->findChild<Control*>(name);
-    if (control == nullptr) throw std::runtime_error("no control " + name.toStdString());
-    return *control;
-  }
-  void Press(const QString& button) { QTest::mouseClick(&Find<QToolButton>(button), Qt::LeftButton); }
-  QString Panel(int index) { return Find<QLabel>(QString("lblMapStatus(%1)").arg(index)).text(); }
-
   // Answers the modal dialog that opens next.
   template <class Answer>
   void WhenDialogOpens(const Answer& answer) {
@@ -57,27 +23,132 @@ class Window : public testing::Test {
       answer(*dialog);
     });
   }
-
-  TemporaryFolder folder;
-  DrawnWorld world{windowWorld};
-  HeardMessages messages;
-  NoPointer pointer;
-  Session session;
-  std::unique_ptr<frmMap> window;
 };
 
-TEST_F(Window, OpensAtItsSizeWithItsControls) {
+TEST_F(Window, OpensWithItsControls) {
   Open();
-  EXPECT_EQ(window->size(), QSize(1600, 1000));
   EXPECT_FLOAT_EQ(session.view.MapSizeFactor, 1);
   EXPECT_TRUE(session.view.MapReady);
   EXPECT_EQ(Panel(1), "30NM");
-  for (const char* name : {"mnuNewFP", "mnuCreateLoAlt", "mnuCreateHiAlt", "mnu3NM", "mnu10NM", "mnu50NM",
-                           "mnu100NM", "mnu200NM", "mnu400NM", "mnu800NM", "mnu2000NM", "mnuCoastlines",
-                           "mnuAirport", "mnuVictor", "mnuJet", "mnuSaveFPAs"})
+  for (const char* name : {"mnuNewFP", "mnuCreateLoAlt", "mnuCreateHiAlt", "mnuSaveFPAs", "mnu3NM", "mnu10NM",
+                           "mnu50NM", "mnu100NM", "mnu200NM", "mnu400NM", "mnu800NM", "mnu2000NM"})
     EXPECT_NE(window->findChild<QAction*>(name), nullptr) << name;
   EXPECT_FALSE(Find<QAction>("mnuCreateHiAlt").isEnabled()) << "there is no plan";
   EXPECT_FALSE(Find<QAction>("mnuSaveFPAs").isEnabled());
+}
+
+struct SwitchCase {
+  const char* menu;
+  const char* button;
+  bool MapSwitches::*flag;
+};
+constexpr SwitchCase switchCases[] = {
+    {"mnuCoastlines", "rbnCoastlines", &MapSwitches::mnuCoastlines},
+    {"mnuLatLong", "rbnLatLong", &MapSwitches::mnuLatLong},
+    {"mnuCompass", "rbnCompass", &MapSwitches::mnuCompass},
+    {"mnuMSA", "rbnMSA", &MapSwitches::mnuMSA},
+    {"mnuAirport", "rbnAirport", &MapSwitches::mnuAirport},
+    {"mnuILS", "rbnILS", &MapSwitches::mnuILS},
+    {"mnuVOR", "btnVor", &MapSwitches::mnuVOR},
+    {"mnuNDB", "btnNdb", &MapSwitches::mnuNDB},
+    {"mnuIntersection", "btnInter", &MapSwitches::mnuIntersection},
+    {"mnuGPSFix", "rbnGPSFix", &MapSwitches::mnuGPSFix},
+    {"mnuUserWP", "rbnUserWP", &MapSwitches::mnuUserWP},
+    {"mnuVictor", "rbnVictor", &MapSwitches::mnuVictor},
+    {"mnuJet", "rbnJet", &MapSwitches::mnuJet},
+    {"mnuCtrz", "rbnCtrz", &MapSwitches::mnuCtrz},
+    {"mnuAir1", "rbnAir1", &MapSwitches::mnuAir1},
+    {"mnuAir2", "rbnAir2", &MapSwitches::mnuAir2},
+    {"mnuSunrise", "rbnSunrise", &MapSwitches::mnuSunrise},
+    {"mnuIcao", "btnIcao", &MapSwitches::btnIcao},
+    {"mnuName", "btnName", &MapSwitches::btnName},
+    {"mnuFreq", "btnFreq", &MapSwitches::btnFreq},
+    {"mnuAutozoom", nullptr, &MapSwitches::mnuAutozoom},
+    {"mnuAoM", nullptr, &MapSwitches::mnuAoM},
+};
+
+TEST_F(Window, EverySwitchHasItsMenuAndItsRibbonInStep) {
+  Open();
+  PointAt(5000, 100);  // the ribbon is there
+  for (const SwitchCase& c : switchCases) {
+    auto& menu = Find<QAction>(c.menu);
+    const bool before = session.switches.*c.flag;
+    EXPECT_EQ(menu.isChecked(), before) << c.menu;
+    menu.trigger();
+    EXPECT_EQ(session.switches.*c.flag, !before) << c.menu;
+    if (c.button == nullptr) continue;
+    auto& button = Find<QToolButton>(c.button);
+    EXPECT_EQ(button.isChecked(), !before) << c.button << " follows the menu";
+    Press(c.button);
+    EXPECT_EQ(menu.isChecked(), before) << c.menu << " follows the ribbon";
+    EXPECT_EQ(session.switches.*c.flag, before) << c.button;
+  }
+}
+
+TEST_F(Window, ASwitchChangesThePicture) {
+  Open();
+  session.view.MapCenterLat = 0;
+  session.view.MapCenterLon = 5;
+  Find<QAction>("mnu400NM").trigger();
+  const QImage with = window->grab().toImage();
+  Find<QAction>("mnuAirport").trigger();
+  EXPECT_NE(window->grab().toImage(), with);
+}
+
+TEST_F(Window, EveryToggleOfTheRibbonHasAPictureOfItsOwnAndATip) {
+  Open();
+  std::set<QByteArray> pictures;
+  const auto buttons = Find<ToggleRibbon>("pnlToggleButtons").findChildren<QToolButton*>();
+  EXPECT_EQ(buttons.size(), 22);
+  for (const QToolButton* button : buttons) {
+    const QImage picture = button->icon().pixmap(20, 20).toImage();
+    ASSERT_FALSE(picture.isNull()) << button->objectName().toStdString();
+    pictures.emplace(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes());
+    EXPECT_TRUE(button->toolTip().contains('(')) << button->objectName().toStdString() << " tells its keys";
+  }
+  EXPECT_EQ(pictures.size(), 22u);
+}
+
+TEST_F(Window, TheRibbonFitsASmallScreen) {
+  Open();
+  window->resize(1366, 768);
+  window->StartPlan(0, 1);
+  QApplication::processEvents();
+  const auto& ribbon = Find<ToggleRibbon>("pnlToggleButtons");
+  EXPECT_LT(ribbon.height(), 60) << "one row beside the plan";
+  window->resize(669, 577);
+  QApplication::processEvents();
+  EXPECT_LE(ribbon.width(), Find<MapCanvas>("Map").width());
+}
+
+TEST_F(Window, NoTwoCommandsShareAKey) {
+  Open();
+  std::map<QString, QString> owners;
+  const auto take = [&](const QKeySequence& keys, const QString& owner) {
+    if (keys.isEmpty()) return;
+    const auto [at, isNew] = owners.emplace(keys.toString(), owner);
+    EXPECT_TRUE(isNew) << keys.toString().toStdString() << ": " << owner.toStdString() << " and "
+                       << at->second.toStdString();
+  };
+  for (const QAction* action : window->findChildren<QAction*>())
+    take(action->shortcut(), action->objectName());
+  for (const QShortcut* shortcut : window->findChildren<QShortcut*>())
+    take(shortcut->key(), "key");
+  EXPECT_GT(owners.size(), 30u);
+}
+
+TEST_F(Window, NoTwoItemsOfAMenuShareALetter) {
+  Open();
+  for (const QMenu* menu : window->findChildren<QMenu*>()) {
+    if (menu->objectName() == "mnuAircraft") continue;  // names of the pilot's own
+    std::set<QChar> letters;
+    for (const QAction* action : menu->actions()) {
+      const qsizetype mark = action->text().indexOf('&');
+      if (mark < 0) continue;
+      EXPECT_TRUE(letters.insert(action->text()[mark + 1].toLower()).second)
+          << menu->title().toStdString() << ": " << action->text().toStdString();
+    }
+  }
 }
 
 TEST_F(Window, ZoomsByKeysButtonsMenusAndTheRangePanel) {
@@ -118,72 +189,6 @@ TEST_F(Window, TellsWhenTheZoomEnds) {
   Press("cmdZoom");
   EXPECT_EQ(messages.texts, std::vector<std::string>{"Maximum zoom!"});
   EXPECT_EQ(Panel(1), "1NM");
-}
-
-TEST_F(Window, WheelZoomsOnlyWhenTheSettingsSaySo) {
-  for (const bool on : {false, true}) {
-    session.settings.MZOOM = on ? 1 : 0;
-    Open();
-    auto& map = Find<MapCanvas>("Map");
-    const QPointF middle(map.width() / 2.0, map.height() / 2.0);
-    QWheelEvent toward(middle, map.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                       Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&map, &toward);
-    EXPECT_EQ(Panel(1), on ? "50NM" : "30NM");
-  }
-}
-
-TEST_F(Window, AClickRecentres) {
-  Open();
-  Find<QAction>("mnu400NM").trigger();
-  auto& map = Find<MapCanvas>("Map");
-  const float lat = session.view.MapCenterLat;
-  const float lon = session.view.MapCenterLon;
-  const double pixelsPerUnit = PagePlacement(map.width(), map.height()).PixelsPerUnit();
-  // Two degrees of latitude are 2100 units at 400 NM.
-  const QPoint above(map.width() / 2, static_cast<int>(map.height() / 2.0 - 2100 * pixelsPerUnit));
-  QTest::mouseClick(&map, Qt::LeftButton, Qt::NoModifier, above);
-  EXPECT_NEAR(session.view.MapCenterLat, lat + 2, 0.02);
-  EXPECT_NEAR(session.view.MapCenterLon, lon, 0.02);
-  EXPECT_EQ(Panel(1), "400NM");
-  QTest::mouseClick(&map, Qt::LeftButton, Qt::ShiftModifier, QPoint(20, 20));
-  EXPECT_NEAR(session.view.MapCenterLat, lat + 2, 0.02) << "with Shift held the map stays";
-}
-
-TEST_F(Window, ADragBoxZoomsToItsHeight) {
-  Open();
-  Find<QAction>("mnu400NM").trigger();
-  auto& map = Find<MapCanvas>("Map");
-  const double pixelsPerUnit = PagePlacement(map.width(), map.height()).PixelsPerUnit();
-  const int half = static_cast<int>(std::lround(1750 / 2 * pixelsPerUnit));  // 100 NM high in all
-  const QPoint middle(map.width() / 2, map.height() / 2);
-  QTest::mousePress(&map, Qt::LeftButton, Qt::NoModifier, middle - QPoint(100, half));
-  QTest::mouseMove(&map, middle + QPoint(100, half));
-  QTest::mouseRelease(&map, Qt::LeftButton, Qt::NoModifier, middle + QPoint(100, half));
-  EXPECT_EQ(Panel(1), "100NM");
-}
-
-TEST_F(Window, StretchingItScalesTheMap) {
-  Open();
-  Find<QAction>("mnu400NM").trigger();
-  window->resize(800, 700);
-  QApplication::processEvents();
-  EXPECT_FLOAT_EQ(session.view.MapSizeFactor, 0.5F);
-  EXPECT_EQ(session.view.MapScale, 525);
-  EXPECT_EQ(Panel(1), "400NM");
-}
-
-TEST_F(Window, LayersComeAndGoWithMenuAndRibbonInStep) {
-  Open();
-  session.view.MapCenterLat = 0;
-  session.view.MapCenterLon = 5;
-  Find<QAction>("mnu400NM").trigger();
-  const QImage with = window->grab().toImage();
-  Press("rbnAirport");
-  EXPECT_FALSE(Find<QAction>("mnuAirport").isChecked());
-  EXPECT_NE(window->grab().toImage(), with);
-  Find<QAction>("mnuAirport").trigger();
-  EXPECT_TRUE(Find<QToolButton>("rbnAirport").isChecked());
 }
 
 TEST_F(Window, MakesAndSavesAHighAltitudePlan) {
@@ -254,6 +259,50 @@ TEST_F(Window, ClosingWritesTheSettings) {
   Find<QAction>("mnu400NM").trigger();
   window->close();
   EXPECT_EQ(ReadIni(AppFolder(folder.Path())).settings.SCALE, 13);
+}
+
+TEST_F(Window, SwitchesAndPlaceComeBackAfterARestart) {
+  Open();
+  EXPECT_TRUE(Find<QAction>("mnuRemWinPos").isChecked()) << "a first start remembers";
+  for (const char* name : {"mnuJet", "mnuGPSFix", "btnName", "mnuAir2", "mnuCompass", "mnuAutozoom"}) {
+    const QString menu = QString(name).replace("btn", "mnu");
+    Find<QAction>(menu).trigger();
+  }
+  Find<QAction>("mnuMouseZoom").trigger();
+  const MapSwitches before = session.switches;
+  ASSERT_NE(before, MapSwitches());
+  window->setGeometry(30, 40, 700, 640);
+  Find<QAction>("mnuAutozoom").setChecked(true);
+  window->close();
+
+  session.settings = ReadIni(AppFolder(folder.Path())).settings;
+  session.switches = {};
+  window = std::make_unique<frmMap>(session, messages, pointer);
+  window->show();
+  QApplication::processEvents();
+  EXPECT_EQ(session.switches, before);
+  EXPECT_TRUE(Find<QAction>("mnuGPSFix").isChecked());
+  EXPECT_TRUE(Find<MapCanvas>("Map").wheelZooms);
+  EXPECT_EQ(window->geometry(), QRect(30, 40, 700, 640));
+
+  Find<QAction>("mnuRemWinPos").trigger();
+  window->setGeometry(10, 10, 680, 600);
+  window->close();
+  const Settings kept = ReadIni(AppFolder(folder.Path())).settings;
+  EXPECT_EQ(kept.REMWINPOS, 0);
+  EXPECT_EQ(kept.WINX, 30) << "the place is only written while it is remembered";
+}
+
+TEST_F(Window, AMaximisedWindowComesBackMaximised) {
+  Open();
+  window->showMaximized();
+  QApplication::processEvents();
+  window->close();
+  session.settings = ReadIni(AppFolder(folder.Path())).settings;
+  EXPECT_EQ(session.settings.MAPWIN, 2);
+  window = std::make_unique<frmMap>(session, messages, pointer);
+  window->show();
+  EXPECT_TRUE(window->isMaximized());
 }
 
 }  // namespace

@@ -1,0 +1,10 @@
+// The pictures on buttons: line drawings in SVG that take the colour of the
+// text beside them, so that they are sharp on every screen and dim with their
+// button.
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+// The drawing assets/icons/NAME.svg. An unknown name gives a null icon.
+QIcon LineIcon(const QString& name);
