@@ -62,6 +62,7 @@ void clsNavaid::DrawRose() {
     const double angle = mark - CutToInt(sngMagVar);
     const SurfacePoint rim = At(-angle, intRadius);
     const SurfacePoint inner = At(-angle, mark == 0 ? longInner : intRadius - shortTick);
+    objTarget->DrawWidth = keeper.Style().DrawWidth * (mark == 0 ? 2.0F : 1.0F);
     objTarget->Line(rim.x, rim.y, inner.x, inner.y, lngColor);
   }
 }

@@ -10,6 +10,7 @@
 namespace {
 
 constexpr std::int16_t featherRange = 200;
+constexpr std::int16_t filledRange = 50;
 constexpr std::int16_t labelRange = 100;
 constexpr std::int16_t shortLabelRange = 75;  // beyond, the label is short
 constexpr float labelDistance = 100;
@@ -31,7 +32,7 @@ void DrawIls(const MapPaint& paint, const IlsRec& ils, float variation, bool sel
   symbol.strRwyID.clear();
   symbol.lngColor = selected ? paint.colors.HILITE : paint.colors.ILS;
   surface.DrawWidth = 1;
-  surface.FillStyle = FillStyleKind::solid;
+  surface.FillStyle = paint.RangeNM() <= filledRange ? FillStyleKind::solid : FillStyleKind::transparent;
   surface.Opacity = selected ? 1 : ValueAt(featherOpacity, paint.RangeNM());
   symbol.DrawAsILS();
   surface.FillStyle = FillStyleKind::transparent;

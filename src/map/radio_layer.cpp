@@ -18,13 +18,13 @@ constexpr std::int16_t dme = 9;
 
 // Beyond the reach of their use, stations step back behind coast and plan.
 constexpr std::array<RangeStep, 7> vorOpacity = {
-    {{200, 1}, {300, 0.75F}, {400, 0.6F}, {600, 0.42F}, {900, 0.3F}, {2000, 0.1F}, {6000, 0.05F}}};
+    {{200, 1}, {300, 0.8F}, {400, 0.65F}, {600, 0.5F}, {900, 0.4F}, {2000, 0.1F}, {6000, 0.05F}}};
 constexpr std::array<RangeStep, 7> vorLabelOpacity = {
-    {{150, 1}, {200, 0.9F}, {300, 0.65F}, {400, 0.42F}, {600, 0.22F}, {700, 0.14F}, {900, 0.1F}}};
+    {{150, 1}, {200, 0.9F}, {300, 0.7F}, {400, 0.55F}, {500, 0.45F}, {700, 0.35F}, {900, 0.3F}}};
 constexpr std::array<RangeStep, 8> ndbOpacity = {
     {{50, 1}, {150, 0.8F}, {200, 0.6F}, {300, 0.45F}, {500, 0.3F}, {900, 0.2F}, {2000, 0.3F}, {6000, 0.15F}}};
 constexpr std::array<RangeStep, 7> ndbLabelOpacity = {
-    {{50, 1}, {150, 0.8F}, {200, 0.55F}, {300, 0.35F}, {400, 0.2F}, {600, 0.11F}, {900, 0.06F}}};
+    {{50, 1}, {150, 0.8F}, {200, 0.6F}, {300, 0.45F}, {400, 0.35F}, {600, 0.28F}, {900, 0.22F}}};
 constexpr std::array<RangeStep, 6> roseRadius = {
     {{10, 420}, {30, 340}, {50, 280}, {75, 220}, {100, 180}, {150, 140}}};
 constexpr std::array<RangeStep, 3> ringRadius = {{{30, 110}, {75, 90}, {6000, 76}}};
