@@ -1,5 +1,7 @@
 #include "map/follow_aircraft.h"
 
+#include <cmath>
+
 namespace {
 
 constexpr std::int32_t leastAglFt = 500;  // above it and leastTas the periodic recentring runs
@@ -56,14 +58,13 @@ ZoomAnswer AutomaticZoom(MapView& view, bool airborne) {
 FollowAnswer ShowFSPosition(MapView& view, std::int32_t& counter, const AircraftFacts& aircraft,
                             const FollowOptions& options) {
   FollowAnswer answer;
+  if (!std::isfinite(aircraft.position.lat) || !std::isfinite(aircraft.position.lon)) return answer;
   view.AircraftLat = aircraft.position.lat;
   view.AircraftLon = aircraft.position.lon;
   answer.repaint = PeriodicRecentring(view, counter, aircraft, options);
   if (!options.minimised && options.mnuAoM && KeepInFrame(view, aircraft, options)) answer.repaint = true;
   view.MapMagVar = aircraft.magVar;
-  const ZoomAnswer zoom = AutomaticZoom(view, aircraft.airborne);
-  answer.repaint = answer.repaint || zoom.repaint;
-  answer.message = zoom.message;
+  if (AutomaticZoom(view, aircraft.airborne).repaint) answer.repaint = true;
   answer.setPlane = aircraft.connected || answer.repaint;
   return answer;
 }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
 #include "map/map_view.h"
 
@@ -37,14 +36,14 @@ struct FollowOptions {
 };
 
 struct FollowAnswer {
-  bool repaint = false;      // the view has changed
-  bool setPlane = false;     // the aircraft symbol is to be drawn anew
-  std::string_view message;  // of a refused zoom; empty when there is none
+  bool repaint = false;   // the view has changed
+  bool setPlane = false;  // the aircraft symbol is to be drawn anew
 };
 
 // One call a position display. counter belongs to the caller and holds the
 // calls since the last periodic recentring. The view's stored aircraft position
 // and MapMagVar take the facts' values; panels 2 and 3 are to be written anew.
+// An aircraft whose position is no number is not followed.
 FollowAnswer ShowFSPosition(MapView& view, std::int32_t& counter, const AircraftFacts& aircraft,
                             const FollowOptions& options);
 

@@ -115,8 +115,8 @@ struct MapView {
   ZoomAnswer SetZoom(int level, bool clearAutozoom);
 
   // Moves the centre, and the stored aircraft position with it, to the middle of
-  // a box drawn on the map (a click is a box of no size). A box more than 200 units high also brings the zoom
-  // row whose range is nearest to its height.
+  // a box drawn on the map (a click is a box of no size). A box more than 200
+  // units high also brings the zoom row whose range is nearest to its height.
   void RecentreOnBox(float x1, float y1, float x2, float y2);
 
   // Key F12: the centre takes the stored aircraft position.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "map/aircraft_symbol.h"
 #include "tests/map/recording_surface.h"
 
@@ -155,6 +157,30 @@ TEST(Follow, AtAPoleTheHeldBackCentreIsNotPaintedAgainAndAgain) {
   const AircraftFacts facts = InFlight({89.5F, 0}, 0);
   EXPECT_TRUE(ShowFSPosition(view, counter, facts, options).repaint);
   EXPECT_FALSE(ShowFSPosition(view, counter, facts, options).repaint);
+}
+
+TEST(Follow, APositionThatIsNoNumberLeavesTheViewAlone) {
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  for (const Position place : {Position{nan, 0}, Position{0, nan}}) {
+    MapView view = ViewAt(1, 2);
+    std::int32_t counter = 0;
+    const FollowAnswer answer = ShowFSPosition(view, counter, InFlight(place, 0), Following());
+    EXPECT_FALSE(answer.repaint || answer.setPlane);
+    EXPECT_EQ((Position{view.MapCenterLat, view.MapCenterLon}), (Position{1, 2}));
+    EXPECT_EQ((Position{view.AircraftLat, view.AircraftLon}), (Position{1, 2}));
+  }
+}
+
+TEST(StoredPosition, AClickStoresItAndF12ComesBackToIt) {
+  MapView view = ViewAt(50, 8);
+  EXPECT_EQ((Position{view.AircraftLat, view.AircraftLon}), (Position{50, 8})) << "at load";
+  view.RecentreOnBox(1000, 1000, 1000, 1000);
+  const Position clicked{view.MapCenterLat, view.MapCenterLon};
+  EXPECT_EQ((Position{view.AircraftLat, view.AircraftLon}), clicked);
+  view.MapCenterLat = -20;
+  view.MapCenterLon = 170;
+  view.CentreOnAircraft();
+  EXPECT_EQ((Position{view.MapCenterLat, view.MapCenterLon}), clicked);
 }
 
 TEST(AutomaticZoom, TakesItsRows) {
