@@ -42,6 +42,7 @@ void frmMap::ConnectCanvas() {
   connect(Map, &MapCanvas::StepsTurned, this, &frmMap::TurnWheel);
   connect(Map, &MapCanvas::Resized, this, [this] {
     pnlToggleButtons->FitInto(Map->width());
+    if (pnlToggleButtons->isVisible()) Map->SetPlatesTop(pnlToggleButtons->height());
     PlaceMapLabels();
   });
 }
@@ -102,11 +103,13 @@ void frmMap::PointerLeft() {
   rest.Forget();
   ShowRibbon(false);
   CloseHover();
+  FollowPointer();
 }
 
 void frmMap::ShowRibbon(bool on) {
   if (on == pnlToggleButtons->isVisible()) return;
   pnlToggleButtons->setVisible(on);
+  Map->SetPlatesTop(on ? pnlToggleButtons->height() : 0);
 }
 
 void frmMap::TakeBox(float x1, float y1, float x2, float y2) {
@@ -166,13 +169,11 @@ void frmMap::FollowPointer() {
 
 namespace {
 
-// Beside a place of the map, kept within the map.
-void PlaceBeside(QLabel& label, QPoint at, QSize map) {
-  label.adjustSize();
-  const QPoint wanted = at + QPoint(labelOffset, labelOffset);
+// Kept within the map.
+void PlaceLabel(QLabel& label, QPoint corner, QSize map) {
   const int right = std::max(0, map.width() - label.width());
   const int bottom = std::max(0, map.height() - label.height());
-  label.move(std::clamp(wanted.x(), 0, right), std::clamp(wanted.y(), 0, bottom));
+  label.move(std::clamp(corner.x(), 0, right), std::clamp(corner.y(), 0, bottom));
 }
 
 }  // namespace
@@ -180,7 +181,9 @@ void PlaceBeside(QLabel& label, QPoint at, QSize map) {
 void frmMap::PlaceMapLabels() {
   if (measure.visible) {
     lblMeasure->setText(QString::fromStdString(measure.Caption(session.view.MapMagVar)));
-    PlaceBeside(*lblMeasure, Map->ToPixel(measure.label.x, measure.label.y), Map->size());
+    lblMeasure->adjustSize();
+    const QPoint place = Map->ToPixel(measure.label.x, measure.label.y);
+    PlaceLabel(*lblMeasure, place + QPoint(labelOffset, labelOffset), Map->size());
   }
   lblMeasure->setVisible(measure.visible);
   const auto leg = Leg();
@@ -188,7 +191,11 @@ void frmMap::PlaceMapLabels() {
   if (legShown) {
     lblCourseRadial->setText(
         QString::fromStdString(LegPickText(*leg, PointerPosition(), session.view.MapMagVar)));
-    PlaceBeside(*lblCourseRadial, Map->ToPixel(pointerAt.x, pointerAt.y), Map->size());
+    lblCourseRadial->adjustSize();
+    // Left of and above the pointer: the box of what lies there opens on the other side.
+    const QPoint place = Map->ToPixel(pointerAt.x, pointerAt.y);
+    const QPoint size(lblCourseRadial->width(), lblCourseRadial->height());
+    PlaceLabel(*lblCourseRadial, place - QPoint(labelOffset, labelOffset) - size, Map->size());
   }
   lblCourseRadial->setVisible(legShown);
 }
@@ -203,8 +210,9 @@ void frmMap::DrawOverlay(DrawSurface& surface) {
 }
 
 void frmMap::DrawPlates(DrawSurface& surface) {
-  const SurfacePoint corner = Map->VisibleCorner();
-  DrawHoverBox(hoverLines, pointerAt.x - corner.x, pointerAt.y - corner.y, session.settings, surface);
+  const SurfacePoint corner = Map->PlatesCorner();
+  const float y = std::max(0.0F, pointerAt.y - corner.y);  // the pointer may be on the ribbon's height
+  DrawHoverBox(hoverLines, pointerAt.x - corner.x, y, session.settings, surface);
 }
 
 // ---- what lies under the pointer
@@ -246,6 +254,7 @@ void frmMap::CloseHover() {
 // ---- the right button
 
 void frmMap::OpenMapMenu(float x, float y, const QPoint& global) {
+  if (QApplication::activePopupWidget() != nullptr) return;
   Trapped("frmMap Map_MouseDown (", [&] {
     CloseHover();
     auto* menu = new QMenu(this);

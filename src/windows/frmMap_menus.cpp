@@ -276,6 +276,10 @@ void frmMap::BuildKeys() {
     auto* shortcut = new QShortcut(QKeySequence(key), this);
     connect(shortcut, &QShortcut::activated, this, [this, key] { KeyDown(key); });
   }
+  for (const QKeySequence& keys : {QKeySequence(Qt::SHIFT | Qt::Key_F10), QKeySequence(Qt::Key_Menu)}) {
+    auto* shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, Map, &MapCanvas::AskMenu);
+  }
 }
 
 void frmMap::ShowAbout() {

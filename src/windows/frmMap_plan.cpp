@@ -29,6 +29,9 @@ void frmMap::StartPlan(int departureRow, int destinationRow) {
   centralWidget()->layout()->activate();
   const SurfacePoint visible = Map->VisibleUnits();
   ShowWholePlan(session.plan, session.view, {visible.x, visible.y});
+  // Without a simulator the aircraft stands where the flight begins.
+  session.view.AircraftLat = session.plan.Row(0).Lat;
+  session.view.AircraftLon = session.plan.Row(0).Lon;
   CentreMoved();
 }
 

@@ -17,23 +17,26 @@ constexpr int wheelStep = 120;
 // A hand that shakes while it clicks draws no box.
 constexpr double clickTolerance = 3;
 
-// The surface of a page cut to what is seen of it.
-class VisiblePage : public QtPainterSurface {
+// The surface of a page cut to what is seen of it below some pixels at the top.
+class SeenPage : public QtPainterSurface {
  public:
-  VisiblePage(QPainter& painter, const PagePlacement& placement, SurfacePoint size)
-      : QtPainterSurface(painter, placement), size(size) {
+  SeenPage(QPainter& painter, const PagePlacement& placement, int top)
+      : QtPainterSurface(painter, placement),
+        width(static_cast<float>(placement.PixelWidth() / placement.PixelsPerUnit())),
+        height(static_cast<float>((placement.PixelHeight() - top) / placement.PixelsPerUnit())) {
     painter.save();
-    painter.translate(-placement.ToPixel(0, 0));
+    painter.translate(QPointF(0, top) - placement.ToPixel(0, 0));
   }
-  ~VisiblePage() override { painter.restore(); }
-  VisiblePage(const VisiblePage&) = delete;
-  VisiblePage& operator=(const VisiblePage&) = delete;
+  ~SeenPage() override { painter.restore(); }
+  SeenPage(const SeenPage&) = delete;
+  SeenPage& operator=(const SeenPage&) = delete;
 
-  float ScaleWidth() const override { return size.x; }
-  float ScaleHeight() const override { return size.y; }
+  float ScaleWidth() const override { return width; }
+  float ScaleHeight() const override { return height; }
 
  private:
-  SurfacePoint size;
+  float width;
+  float height;
 };
 
 }  // namespace
@@ -75,7 +78,7 @@ void MapCanvas::paintEvent(QPaintEvent*) {
     drawOverlay(surface);
   }
   if (drawPlates) {
-    VisiblePage page(painter, Placement(), VisibleUnits());
+    SeenPage page(painter, Placement(), platesTop);
     drawPlates(page);
   }
   if (focusShown) {
@@ -117,10 +120,20 @@ void MapCanvas::leaveEvent(QEvent*) {
 }
 
 void MapCanvas::contextMenuEvent(QContextMenuEvent* event) {
-  const bool byPointer = event->reason() == QContextMenuEvent::Mouse;
-  const QPoint at = byPointer ? event->pos() : rect().center();
-  const SurfacePoint pointer = Placement().ToUnits(at);
-  Q_EMIT MenuAsked(pointer.x, pointer.y, mapToGlobal(at));
+  if (event->reason() != QContextMenuEvent::Mouse) return AskMenu();
+  const SurfacePoint pointer = Placement().ToUnits(event->pos());
+  Q_EMIT MenuAsked(pointer.x, pointer.y, mapToGlobal(event->pos()));
+}
+
+void MapCanvas::AskMenu() {
+  const QPoint middle = rect().center();
+  const SurfacePoint place = Placement().ToUnits(middle);
+  Q_EMIT MenuAsked(place.x, place.y, mapToGlobal(middle));
+}
+
+void MapCanvas::SetPlatesTop(int pixels) {
+  platesTop = pixels;
+  update();
 }
 
 void MapCanvas::wheelEvent(QWheelEvent* event) {

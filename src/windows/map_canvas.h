@@ -24,8 +24,8 @@ class MapCanvas : public QWidget {
 
   std::function<void(DrawSurface&)> drawPicture;  // the full repaint
   std::function<void(DrawSurface&)> drawOverlay;  // above a copy of the picture
-  // Above everything, on a page that is just what is seen: its width and height
-  // are VisibleUnits() and its origin is VisibleCorner().
+  // Above everything, on a page that is just what is seen below platesTop: its
+  // origin is PlatesCorner().
   std::function<void(DrawSurface&)> drawPlates;
   bool wheelZooms = false;  // and the focus follows the pointer
 
@@ -34,6 +34,11 @@ class MapCanvas : public QWidget {
   // What can be seen of the page, in map units: its size, and its top left corner.
   SurfacePoint VisibleUnits() const;
   SurfacePoint VisibleCorner() const { return Placement().ToUnits({0, 0}); }
+  SurfacePoint PlatesCorner() const { return Placement().ToUnits(QPointF(0, platesTop)); }
+  // Pixels at the upper edge that something else covers.
+  void SetPlatesTop(int pixels);
+  // The menu of the right button, at the middle of what is seen.
+  void AskMenu();
   // Where a point of the page is in the widget.
   QPoint ToPixel(float x, float y) const { return Placement().ToPixel(x, y).toPoint(); }
   const QImage& Picture() const { return VMap0; }
@@ -44,7 +49,7 @@ class MapCanvas : public QWidget {
   void ButtonUp(float x, float y, bool shift);
   void PointerMoved(float x, float y);
   void PointerLeft();
-  // Right click, or the keyboard's own request (then at the middle).
+  // Right click, or AskMenu().
   void MenuAsked(float x, float y, const QPoint& global);
   void StepsTurned(int towardUser);  // of the wheel, never 0
   // Arrow keys: parts of the page to move the centre by.
@@ -70,6 +75,7 @@ class MapCanvas : public QWidget {
 
   QImage VMap0;
   bool stale = true;
+  int platesTop = 0;
   bool leftDown = false;
   bool focusShown = false;  // reached by the Tab key
   QPointF pressedAt;

@@ -277,6 +277,20 @@ TEST_F(Gestures, TheRightButtonsMenu) {
   }
 }
 
+TEST_F(Gestures, TheKeyboardOpensTheMapsMenuFromEverywhere) {
+  Open();
+  window->StartPlan(0, 1);
+  QApplication::setActiveWindow(window.get());
+  Find<QTableView>("grdWPTable").setFocus();
+  for (const auto& [key, modifiers] :
+       {std::pair(Qt::Key_F10, Qt::ShiftModifier), std::pair(Qt::Key_Menu, Qt::NoModifier)}) {
+    QTest::keyClick(&Find<QTableView>("grdWPTable"), key, modifiers);
+    auto& menu = Find<QMenu>("mnuMapContext");
+    EXPECT_TRUE(menu.isVisible());
+    Choose(menu, "mnuCentreHere");
+  }
+}
+
 TEST_F(Gestures, TheSelectedWaypointsBearingLine) {
   Open();
   window->StartPlan(0, 1);
