@@ -13,8 +13,9 @@ namespace {
 
 constexpr std::int16_t labelRange = 2000;
 constexpr double greatCircleStepNM = 60;
-constexpr float labelDrop = 75;      // of most rows
-constexpr float farLabelDrop = 150;  // of NDB and user waypoints
+constexpr float airportLabelDrop = 50;  // over the map's own label
+constexpr float labelDrop = 75;         // of most rows
+constexpr float farLabelDrop = 150;     // of NDB and user waypoints
 constexpr std::int16_t airportRadius = 46;
 constexpr std::int16_t vorRadius = 180;
 constexpr std::int16_t ndbRadius = 110;
@@ -61,7 +62,7 @@ float DrawSymbol(const MapPaint& paint, const PlanWaypoint& row) {
     symbol.intRadius = airportRadius;
     symbol.intFillStyle = 0;
     symbol.DrawAsAirportCircle();
-    return symbol.sngCenterY + labelDrop;
+    return symbol.sngCenterY + airportLabelDrop;
   }
   if (row.Sym == "VOR") {
     symbol.intRadius = vorRadius;

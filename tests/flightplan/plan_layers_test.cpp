@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "map/draw_map.h"
 #include "tests/map/recording_surface.h"
@@ -27,9 +28,8 @@ FlightPlan PlanBetween(Position from, Position to) {
   return plan;
 }
 
-RecordingSurface Painted(const FlightPlan& plan, MapView view) {
+RecordingSurface Painted(const FlightPlan& plan, MapView view, const NavDatabase& database = {}) {
   RecordingSurface surface;
-  const NavDatabase database;
   modDeclutter labels;
   DrawMap({view, labels, database, Settings(), MapSwitches(), {}}, InDrawingOrder(PlanLayers(plan)), surface);
   return surface;
@@ -83,6 +83,64 @@ TEST(PlanLayers, HaveLabelsTo2000NMAndPointsBeyond900) {
   EXPECT_FALSE(near.Texts().empty());
   EXPECT_EQ(near.Count("point", colors.ROUTE), 3);
   EXPECT_TRUE(Painted(plan, MapView::At(35, 9, 20)).Texts().empty());
+}
+
+// Symbol and label of one row at the middle of the page, 5662, 3500.
+TEST(PlanLayers, SymbolAndLabelByKind) {
+  struct Case {
+    const char* sym;
+    RowKind kind;
+    std::vector<std::string> shapes;
+    float labelTop;
+  };
+  const Case cases[] = {{"", RowKind::departure, {"circle 46"}, 3550},
+                        {"Int", RowKind::enroute, {"polygon", "polyline 60"}, 3560},
+                        {"Fix", RowKind::enroute, {"polygon", "polyline 60"}, 3560},
+                        {"VOR", RowKind::enroute, {"polygon", "polyline 80", "circle 5"}, 3575},
+                        {"NDB", RowKind::enroute, {"circle 55", "circle 37", "circle 18"}, 3650},
+                        {"Uwp", RowKind::enroute, {"polygon", "polyline 80", "circle 20"}, 3650}};
+  for (const Case& c : cases) {
+    FlightPlan plan;
+    plan.rows = {Row("CODE", c.sym, {50, 10}, c.kind)};
+    const RecordingSurface surface = Painted(plan, MapView::At(50, 10, 12));
+    std::vector<std::string> shapes;
+    for (const auto& one : surface.drawn) {
+      const auto byX = [](SurfacePoint a, SurfacePoint b) { return a.x < b.x; };
+      const bool closed = !one.points.empty() && one.points.front().x == one.points.back().x;
+      if (one.what == "circle") shapes.push_back("circle " + std::to_string(std::lround(one.points[0].x)));
+      // A symbol's outline is closed, the label's plate is not.
+      if (one.what == "polygon" && closed && one.points.front().y == one.points.back().y)
+        shapes.push_back("polygon");
+      if (one.what != "polyline") continue;
+      const auto [left, right] = std::minmax_element(one.points.begin(), one.points.end(), byX);
+      shapes.push_back("polyline " + std::to_string(std::lround(right->x - left->x)));
+    }
+    EXPECT_EQ(shapes, c.shapes) << c.sym;
+    EXPECT_EQ(surface.drawn.back().what, "print");
+    EXPECT_EQ(surface.drawn.back().x, 5662 - 4 * 60 / 2) << "centred";
+    EXPECT_EQ(surface.drawn.back().y, c.labelTop) << c.sym;
+  }
+}
+
+TEST(PlanLayers, AVorLooksLikeItsRowInTheDatabase) {
+  NavDatabase database;
+  database.vors.resize(1);
+  database.vors[0].strCode = std::string_view("FFM");
+  database.vors[0].intType = 2;
+  struct Case {
+    const char* code;
+    std::int32_t row;
+    int outlines;
+  };
+  // With its three tabs, or a plain hexagon where the row is not the plan's VOR.
+  const Case cases[] = {{"FFM", 0, 4}, {"TAU", 0, 1}, {"FFM", -1, 1}, {"FFM", 7, 1}};
+  for (const Case& c : cases) {
+    FlightPlan plan;
+    plan.rows = {Row(c.code, "VOR", {50, 10})};
+    plan.rows[0].DbIndex = c.row;
+    const RecordingSurface surface = Painted(plan, MapView::At(50, 10, 12), database);
+    EXPECT_EQ(surface.Count("polyline"), c.outlines) << c.code << ' ' << c.row;
+  }
 }
 
 TEST(PlanLayers, AreNotShownWithoutAPlan) {
