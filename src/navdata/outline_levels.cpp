@@ -16,26 +16,6 @@ bool AtPole(Position p) {
   return std::abs(p.lat) >= 89.9F;
 }
 
-// Finite points, with longitudes that run on across the date line. A full turn
-// along a pole is meant as it is.
-std::vector<Position> Unwrapped(std::span<const Position> points) {
-  std::vector<Position> unwrapped;
-  unwrapped.reserve(points.size());
-  float turn = 0;
-  float before = 0;
-  for (const Position point : points) {
-    if (!(std::abs(point.lat) <= 90) || !(std::abs(point.lon) <= 720)) continue;
-    if (!unwrapped.empty()) {
-      const float step = point.lon - before;
-      if (std::abs(step) > 180 && std::abs(step) < 359) turn += step > 0 ? -360.0F : 360.0F;
-    }
-    turn = std::clamp(turn, -360.0F, 360.0F);
-    before = point.lon;
-    unwrapped.push_back({point.lat, point.lon + turn});
-  }
-  return unwrapped;
-}
-
 // Square of the distance from p to the line between a and b, in degrees.
 double SquareOff(Position p, Position a, Position b) {
   const double x = static_cast<double>(b.lon) - a.lon;
@@ -153,13 +133,30 @@ std::span<const OutlineBox> OutlineLevel::Blocks(const OutlineShape& shape) cons
 }
 
 bool IsCutEdge(Position a, Position b) {
-  return (OnDateLine(a) && OnDateLine(b)) || (AtPole(a) && AtPole(b));
+  const bool alongDateLine = OnDateLine(a) && OnDateLine(b) && std::abs(a.lon - b.lon) < 1;
+  return alongDateLine || (AtPole(a) && AtPole(b));
+}
+
+std::vector<Position> UnwrappedOutline(std::span<const Position> points) {
+  std::vector<Position> unwrapped;
+  unwrapped.reserve(points.size());
+  float turn = 0;
+  Position before;
+  for (const Position point : points) {
+    if (!(std::abs(point.lat) <= 90) || !(std::abs(point.lon) <= 720)) continue;
+    const float step = unwrapped.empty() ? 0 : point.lon - before.lon;
+    const bool alongPole = AtPole(point) && AtPole(before);
+    if (std::abs(step) > 180 && !alongPole) turn += step > 0 ? -360.0F : 360.0F;
+    turn = std::clamp(turn, -360.0F, 360.0F);
+    before = point;
+    unwrapped.push_back({point.lat, point.lon + turn});
+  }
+  return unwrapped;
 }
 
 std::vector<Position> SimplifiedOutline(std::span<const Position> points, float tolerance) {
-  std::vector<Position> whole = Unwrapped(points);
-  if (whole.size() < 3 || !(tolerance > 0)) return whole;
-  return Simplifier(whole, tolerance).Run();
+  if (points.size() < 3) return {points.begin(), points.end()};
+  return Simplifier(points, tolerance).Run();
 }
 
 OutlineLevels OutlineLevels::Build(const WorldShapes& world) {
@@ -172,7 +169,7 @@ OutlineLevels OutlineLevels::Build(const WorldShapes& world) {
       const WorldShapeRec& shape = world.shapes[row];
       if (i == 0) {
         const auto points = std::span(world.points).subspan(shape.firstPoint, shape.pointCount);
-        AddShape(level, shape.bytType, SimplifiedOutline(points, 0));
+        AddShape(level, shape.bytType, UnwrappedOutline(points));
       } else {
         // From the level before, which has fewer points; the two errors add up.
         const OutlineLevel& finer = built.levels[i - 1];

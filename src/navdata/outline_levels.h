@@ -59,10 +59,15 @@ class OutlineLevels {
   std::array<OutlineLevel, tolerances.size()> levels;
 };
 
-// The points of an outline that stay when it may lie off by tolerance degrees
-// (Douglas and Peucker's rule, within runs of a bounded number of points).
-// First and last point stay, every point on the date line or at a pole, and of
-// a closed shape at least a triangle. Points that are no numbers go.
+// An outline with longitudes that run on across the date line, each step the
+// short way round, but a turn along a pole as it is. Points that are no places
+// are left out.
+std::vector<Position> UnwrappedOutline(std::span<const Position> points);
+
+// The points of an unwrapped outline that stay when it may lie off by tolerance
+// degrees (Douglas and Peucker's rule, within runs of a bounded number of
+// points). First and last point stay, every point on the date line or at a
+// pole, and of a closed shape at least a triangle.
 std::vector<Position> SimplifiedOutline(std::span<const Position> points, float tolerance);
 
 // True for an edge where an outline was cut at 180 degrees or closed along a

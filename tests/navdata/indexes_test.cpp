@@ -70,6 +70,70 @@ TEST(PlaceIndex, BoxesAcrossTheDateLine) {
   EXPECT_TRUE(PlaceIndex().Near(GeoBox{}).empty());
 }
 
+TEST(PlaceIndex, FindsAreasWhereverTheyLie) {
+  std::mt19937 random(13);
+  const auto between = [&](float low, float high) {
+    return low + (high - low) * static_cast<float>(random() % 10001) / 10000;
+  };
+  std::vector<GeoBox> boxes;
+  for (int i = 0; i < 3000; ++i) {
+    const float south = between(-90, 80);
+    const float west = between(-180, 180);
+    const float width = i % 50 == 0 ? 120 : between(0, 4);
+    const float east = west + width > 180 ? west + width - 360 : west + width;
+    boxes.push_back({south, west, std::min(90.0F, south + between(0, 6)), east});
+  }
+  boxes.push_back({10, 0, 0, 5});  // holds nothing
+  boxes.push_back({std::nanf(""), 0, 5, 5});
+  const PlaceIndex index = PlaceIndex::BuildForBoxes(boxes);
+  const auto parts = [](const GeoBox& box) {
+    return box.west <= box.east ? std::vector<GeoBox>{box}
+                                : std::vector<GeoBox>{{box.south, box.west, box.north, 180},
+                                                      {box.south, -180, box.north, box.east}};
+  };
+  const auto touch = [&](const GeoBox& a, const GeoBox& b) {
+    for (const GeoBox& p : parts(a))
+      for (const GeoBox& q : parts(b))
+        if (p.south <= q.north && q.south <= p.north && p.west <= q.east && q.west <= p.east) return true;
+    return false;
+  };
+  const GeoBox views[] = {{48, 5, 52, 12}, {-20, 175, -10, -175}, {-90, -180, 90, 180}, {89, 10, 90, 10.5F}};
+  for (const GeoBox& view : views) {
+    const auto near = index.Near(view);
+    EXPECT_TRUE(std::is_sorted(near.begin(), near.end()));
+    EXPECT_EQ(std::adjacent_find(near.begin(), near.end()), near.end()) << "no row twice";
+    for (std::size_t row = 0; row < 3000; ++row) {
+      if (!touch(boxes[row], view)) continue;
+      EXPECT_TRUE(std::binary_search(near.begin(), near.end(), static_cast<std::int32_t>(row))) << row;
+    }
+    EXPECT_TRUE(near.empty() || near.back() < 3000);
+  }
+  EXPECT_LT(index.Near(views[0]).size(), 300u);
+}
+
+TEST(BoxAround, GoesTheShorterWayRound) {
+  struct Case {
+    const char* why;
+    std::vector<Position> points;
+    GeoBox box;
+  };
+  const Case cases[] = {{"plain", {{10, 20}, {12, 25}, {11, 22}}, {10, 20, 12, 25}},
+                        {"across the date line", {{1, 178}, {2, -177}, {0, 179}}, {0, 178, 2, -177}},
+                        {"from the other side", {{1, -178}, {2, 177}}, {1, 177, 2, -178}},
+                        {"up to it", {{0, 170}, {0, 180}}, {0, 170, 0, 180}},
+                        {"all round", {{80, 0}, {80, 120}, {80, -120}, {80, 0}}, {80, -180, 80, 180}},
+                        {"no numbers", {{std::nanf(""), 5}, {3, 4}}, {3, 4, 3, 4}}};
+  for (const Case& c : cases) {
+    const GeoBox box = BoxAround(c.points);
+    EXPECT_EQ(box.south, c.box.south) << c.why;
+    EXPECT_EQ(box.west, c.box.west) << c.why;
+    EXPECT_EQ(box.north, c.box.north) << c.why;
+    EXPECT_EQ(box.east, c.box.east) << c.why;
+  }
+  const GeoBox none = BoxAround({});
+  EXPECT_GT(none.south, none.north);
+}
+
 TEST(RunwayNames, NumbersAbove36AreCompassPoints) {
   const struct {
     const char *code, *name;
