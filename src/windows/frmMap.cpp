@@ -109,6 +109,7 @@ void frmMap::DrawMap() {
   CloseHover();
   ShowZoom();
   ShowPosition();
+  ShowPointer();
   Map->MarkStale();
   PlaceMapLabels();
 }

@@ -163,6 +163,7 @@ class frmMap : public QMainWindow {
   HoverRest rest;
   std::vector<HoverLine> hoverLines;
   bool hoverSearched = false;  // since the pointer came to rest
+  bool overlayShown = false;   // something hung on the pointer when it was last followed
   bool pointerOnMap = false;
   bool pointerSeen = false;  // it has been on the map
   SurfacePoint pointerAt;    // last known, map units

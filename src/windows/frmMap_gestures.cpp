@@ -164,7 +164,9 @@ std::optional<PickedLeg> frmMap::Leg() const {
 void frmMap::FollowPointer() {
   ShowPointer();
   PlaceMapLabels();
-  Map->update();
+  const bool shown = measure.visible || box.BoxActive || LegPickIndex() >= 1;
+  if (shown || overlayShown) Map->update();
+  overlayShown = shown;
 }
 
 namespace {

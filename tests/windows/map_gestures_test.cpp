@@ -370,6 +370,9 @@ TEST_F(Gestures, ThePointersPanelHasThreeModes) {
     QTest::qWait(1300);
     EXPECT_TRUE(Panel(5).startsWith(c.text)) << Panel(5).toStdString();
   }
+  const QString before = Panel(5);
+  QTest::keyClick(&Map(), Qt::Key_PageDown);
+  EXPECT_NE(Panel(5), before) << "a zoom moves the place below the resting pointer";
 }
 
 }  // namespace
