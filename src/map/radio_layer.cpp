@@ -13,6 +13,7 @@ constexpr std::int16_t nameRange = 150;
 constexpr std::int16_t fullRange = 150;    // roses and rings up to here
 constexpr std::int16_t smallRange = 200;   // small symbols from here on
 constexpr std::int16_t symbolRange = 900;  // points beyond, which bear no labels
+constexpr std::int16_t haloRange = 200;    // labels farther out are too faint for a rim
 constexpr float vorHalfSize = 50;
 constexpr std::int16_t dme = 9;
 
@@ -89,7 +90,7 @@ void DrawVors(const MapPaint& paint) {
   DrawSurface& surface = paint.surface;
   surface.DrawWidth = paint.RangeNM() <= fullRange ? 1.2F : 1;
   surface.FontSize = LabelPoints(paint.settings, 8);
-  surface.TextHalo = true;
+  surface.TextHalo = paint.RangeNM() <= haloRange;
   paint.navaid.sngLength = vorHalfSize;
   const float opacity =
       ValueAt(vorOpacity, paint.RangeNM()) * (paint.RangeNM() <= fullRange ? roseOpacity : 1);
@@ -114,7 +115,7 @@ void DrawNdbs(const MapPaint& paint) {
   DrawSurface& surface = paint.surface;
   surface.DrawWidth = 1;
   surface.FontSize = LabelPoints(paint.settings, 7.5F);
-  surface.TextHalo = true;
+  surface.TextHalo = paint.RangeNM() <= haloRange;
   const float opacity = ValueAt(ndbOpacity, paint.RangeNM());
   const float labelOpacity = ValueAt(ndbLabelOpacity, paint.RangeNM());
   for (const std::int32_t row : paint.database.ndbsByPlace.Near(paint.view.SearchBox(navaidMargin))) {

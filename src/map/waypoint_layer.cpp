@@ -69,7 +69,8 @@ void DrawIntersections(const MapPaint& paint) {
     if (paint.RangeNM() > intersectionLabelRange) continue;
     label.clear();
     AppendLine(label, CodePageToUtf8(intersection.strCode.View()));
-    if (paint.switches.btnName) AppendLine(label, CodePageToUtf8(intersection.strName.View()));
+    const bool named = paint.switches.btnName && !(intersection.strName == intersection.strCode.View());
+    if (named) AppendLine(label, CodePageToUtf8(intersection.strName.View()));
     paint.surface.Opacity = selected ? 1 : ValueAt(labelOpacity, paint.RangeNM());
     PlaceAndPrint(paint.surface, paint.labels, symbol.sngCenterX, symbol.sngCenterY + labelDrop, label,
                   LabelKind::fix);

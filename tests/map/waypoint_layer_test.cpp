@@ -81,6 +81,15 @@ TEST(Intersections, CodeWhateverTheSwitchAndNameBelowIt) {
       << text;
 }
 
+TEST(Intersections, WithoutANameOfTheirOwnShowTheCodeOnce) {
+  NavDatabase database = FourIntersections();
+  database.intersections[1].strName = std::string_view("VIC");
+  MapSwitches switches = NothingOn();
+  switches.mnuVictor = switches.btnName = true;
+  const auto texts = Painted(database, ViewAt(9), switches).surface.Texts();
+  EXPECT_EQ(texts, (std::vector<std::string>{"VIC", "BOTH", "NAME"}));
+}
+
 TEST(Intersections, HighlightTheSelectedRow) {
   MapSwitches switches = NothingOn();
   switches.mnuVictor = true;
