@@ -149,8 +149,7 @@ TEST(HoverBox, StaysOnThePageWhereverThePointerIs) {
       EXPECT_GE(plate[0].y, 0) << x << ", " << y;
       EXPECT_LE(plate[2].x, 11325) << x << ", " << y;
       EXPECT_LE(plate[2].y, 7000) << x << ", " << y;
-      const bool covered = x > plate[0].x && x < plate[2].x && y > plate[0].y && y < plate[2].y;
-      EXPECT_FALSE(covered) << "the plate lies on the pointer at " << x << ", " << y;
+      EXPECT_TRUE(plate[0].x >= x + 100 || plate[2].x <= x - 100) << "the pointer's own place stays free";
       for (const auto& one : surface.drawn) {
         if (one.what != "print") continue;
         EXPECT_GT(one.x, plate[0].x);
