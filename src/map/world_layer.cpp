@@ -1,6 +1,7 @@
 #include "map/world_layer.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "map/geo_line.h"
 #include "map/shape_clip.h"
@@ -32,11 +33,11 @@ class OutlinePainter {
       ring.clear();
       ForEachBlock(shape, turn, [&](std::span<const Position> points, bool visible) {
         // A run beyond one edge of the page adds no more than its ends.
-        ring.push_back(Point(points.front(), turn));
+        ring.push_back(FillPoint(points.front(), turn));
         for (std::size_t i = 1; visible && i < points.size(); ++i)
-          ring.push_back(Point(points[i], turn));
+          ring.push_back(FillPoint(points[i], turn));
       });
-      ring.push_back(Point(level.Points(shape).back(), turn));
+      ring.push_back(FillPoint(level.Points(shape).back(), turn));
       const auto visible = ClipPolygon(ring, page);
       if (visible.size() > 2) surface.Polygon(visible, color);
     }
@@ -64,6 +65,14 @@ class OutlinePainter {
   SurfacePoint Point(Position place, double turn) const {
     return {static_cast<float>(projection.UnwrappedX(place.lon + turn)),
             static_cast<float>(projection.UnroundedY(place.lat))};
+  }
+
+  // Land that was cut at 180 degrees reaches a pixel over the cut, so that the
+  // two halves meet without a seam.
+  SurfacePoint FillPoint(Position place, double turn) const {
+    SurfacePoint point = Point(place, turn);
+    if (std::abs(place.lon) == 180) point.x += std::copysign(surface.UnitsPerPixel(), place.lon);
+    return point;
   }
 
   bool OnPage(const OutlineBox& box, double turn) const {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -66,6 +67,23 @@ TEST(WorldLayer, ShowsLandOnBothSidesOfTheDateLine) {
         EXPECT_GT(std::abs(one.points[i].x - one.points[i - 1].x), 1) << lon;
     }
   }
+}
+
+TEST(WorldLayer, HalvesCutAtTheDateLineMeetWithoutASeam) {
+  NavDatabase database;
+  AddShape(database.worldPolygons, worldLand, {{50, 170}, {55, 170}, {55, 180}, {50, 180}, {50, 170}});
+  AddShape(database.worldPolygons, worldLand, {{50, -180}, {55, -180}, {55, -170}, {50, -170}, {50, -180}});
+  const RecordingSurface surface = PaintWorld(database, {52, 179.5F}, 13);
+  float westEnd = 0;
+  float eastBegin = mapScaleWidth;
+  for (const auto& one : surface.drawn) {
+    if (one.what != "polygon") continue;
+    const auto [left, right] = std::minmax_element(one.points.begin(), one.points.end(),
+                                                   [](SurfacePoint a, SurfacePoint b) { return a.x < b.x; });
+    if (left->x < 0) westEnd = right->x;
+    if (right->x > mapScaleWidth) eastBegin = left->x;
+  }
+  EXPECT_GE(westEnd - eastBegin, surface.UnitsPerPixel());
 }
 
 TEST(WorldLayer, KeepsAShapeWholeThatCrossesTheDateLineInShortSteps) {
