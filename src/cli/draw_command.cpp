@@ -92,6 +92,14 @@ std::vector<MapLayer> ChosenLayers(const DrawRequest& request, const FlightPlan&
   return InDrawingOrder(std::move(layers));
 }
 
+// The names that a request may use.
+std::string LayerNames() {
+  std::string names;
+  for (const MapLayer& layer : DatabaseLayers())
+    names.append(layer.name).append(", ");
+  return names + "plan";
+}
+
 bool WritePng(const QImage& image, const std::string& path, std::string& reason) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -135,7 +143,7 @@ void AddDrawCommand(CLI::App& app, DrawRequest& request) {
           "--size", [&request](const std::string& text) { TakeSize(text, request); },
           "Pixels, 1600x1000 if not given")
       ->type_name("WxH");
-  draw->add_option("--layers", request.layers, "Of coastlines, airports, jet, victor, plan; all if not given")
+  draw->add_option("--layers", request.layers, "Of " + LayerNames() + "; as by default if not given")
       ->delimiter(',')
       ->type_name("A,B,C");
   draw->add_option("--plan", request.planFile, "A saved plan")->type_name("FILE.pln");

@@ -15,7 +15,7 @@ struct DrawRequest {
   std::optional<int> zoomIndex;  // or its row; neither: the settings' row
   int width = 1600;
   int height = 1000;
-  std::vector<std::string> layers;  // coastlines, airports, jet, victor, plan; empty: all
+  std::vector<std::string> layers;  // by their names; empty: those of the default switches
   std::string planFile;             // empty: no plan
   std::string out;                  // a .png file
 };
