@@ -5,11 +5,15 @@
 #include "map/map_switches.h"
 #include "navdata/tables.h"
 
+// AirspaceRec::intType
+constexpr std::int16_t controlZone = 1;
+constexpr std::int16_t restrictedAirspace = 3;
+
 inline bool AirspaceIsShown(const AirspaceRec& airspace, const MapSwitches& switches) {
   switch (airspace.intType) {
-    case 1:
+    case controlZone:
       return switches.mnuCtrz;
-    case 3:
+    case restrictedAirspace:
       return switches.mnuAir2;
     default:
       return switches.mnuAir1;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/code_page.h"
+#include "map/airspace_kinds.h"
 #include "map/geo_line.h"
 #include "map/mixed_color.h"
 #include "map/range_steps.h"
@@ -31,20 +32,9 @@ struct Shown {
   Rings rings;
 };
 
-struct Look {
-  bool shown;
-  std::int32_t color;
-};
-
-Look LookOf(const MapPaint& paint, const AirspaceRec& airspace) {
-  switch (airspace.intType) {
-    case controlZone:
-      return {paint.switches.mnuCtrz, paint.colors.CTRZ};
-    case restrictedAirspace:
-      return {paint.switches.mnuAir2, paint.colors.AIR2};
-    default:
-      return {paint.switches.mnuAir1, paint.colors.AIR1};
-  }
+std::int32_t ColorOf(const AirspaceRec& airspace, const ColorSettings& colors) {
+  if (airspace.intType == controlZone) return colors.CTRZ;
+  return airspace.intType == restrictedAirspace ? colors.AIR2 : colors.AIR1;
 }
 
 // The rings are closed, also where the file leaves out the last side.
@@ -70,10 +60,9 @@ std::vector<Shown> ShownAirspaces(const MapPaint& paint, const ClipRect& page) {
   std::vector<Shown> shown;
   for (const std::int32_t row : paint.database.airspacesByBox.Near(paint.view.SearchBox(navaidMargin))) {
     const AirspaceRec& airspace = paint.database.airspaces[static_cast<std::size_t>(row)];
-    const Look look = LookOf(paint, airspace);
-    if (!look.shown) continue;
+    if (!AirspaceIsShown(airspace, paint.switches)) continue;
     Rings rings = RingsOf(paint, airspace, page);
-    if (!rings.empty()) shown.push_back({&airspace, look.color, std::move(rings)});
+    if (!rings.empty()) shown.push_back({&airspace, ColorOf(airspace, paint.colors), std::move(rings)});
   }
   return shown;
 }

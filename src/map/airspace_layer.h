@@ -4,10 +4,6 @@
 
 #include "map/map_layer.h"
 
-// Kinds of airspaces (AirspaceRec::intType); all others go with the controlled ones.
-constexpr std::int16_t controlZone = 1;
-constexpr std::int16_t restrictedAirspace = 3;
-
 void DrawAirspaces(const MapPaint& paint);
 
 // MapSelection::activeAirspaces in HILITE, whatever the switches. Numbers off

@@ -38,7 +38,7 @@ TEST(AirspaceLayer, ShowsEachKindByItsSwitch) {
                         {&MapSwitches::mnuAir1, colors.AIR1, 3},
                         {&MapSwitches::mnuAir2, colors.AIR2, 1}};
   for (const Case& c : cases) {
-    MapSwitches on = NothingShown();
+    MapSwitches on = NothingOn();
     EXPECT_EQ(PaintedMap(database, ViewAtRow({50, 8}, 9), on).drawn.size(), 1u) << "only the clearing";
     on.*c.flag = true;
     const RecordingSurface surface = PaintedMap(database, ViewAtRow({50, 8}, 9), on);
@@ -50,7 +50,7 @@ TEST(AirspaceLayer, ShowsEachKindByItsSwitch) {
 TEST(AirspaceLayer, ClosesTheRingAndCrossesTheDateLineWhole) {
   NavDatabase database;
   database.airspaces = {Square(1, {-17, 179.8F}, 0.5F)};
-  MapSwitches on = NothingShown();
+  MapSwitches on = NothingOn();
   on.mnuCtrz = true;
   for (const float lon : {179.0F, -179.5F}) {
     const MapView view = ViewAtRow({-17, lon}, 11);
@@ -69,7 +69,7 @@ TEST(AirspaceLayer, ClosesTheRingAndCrossesTheDateLineWhole) {
 TEST(AirspaceLayer, IsSeenFromInsideAndNotFromAfar) {
   NavDatabase database;
   database.airspaces = {Square(1, {50, 8}, 15)};
-  MapSwitches on = NothingShown();
+  MapSwitches on = NothingOn();
   on.mnuCtrz = true;
   const RecordingSurface inside = PaintedMap(database, ViewAtRow({50, 8}, 7), on);
   EXPECT_EQ(inside.Count("polygon"), 1) << "all of the page";
@@ -90,7 +90,7 @@ TEST(AirspaceLayer, NamesItselfNearBy) {
                         {7, false, true, {}},
                         {8, true, true, {}}};
   for (const Case& c : cases) {
-    MapSwitches on = NothingShown();
+    MapSwitches on = NothingOn();
     on.mnuCtrz = true;
     on.btnName = c.name;
     on.btnFreq = c.freq;
@@ -104,7 +104,7 @@ TEST(ActiveAirspaces, AreDrawnAgainWhateverTheSwitches) {
   MapSelection selection;
   selection.activeAirspaces = {1, 2, -1};
   const ColorSettings colors;
-  MapSwitches on = NothingShown();
+  MapSwitches on = NothingOn();
   EXPECT_EQ(PaintedMap(database, ViewAtRow({50, 8}, 9), on, selection).Count("polyline", colors.HILITE), 1);
   on.mnuAir1 = true;
   const RecordingSurface surface = PaintedMap(database, ViewAtRow({50, 8}, 9), on, selection);
@@ -120,7 +120,7 @@ TEST(MsaLayer, ShowsHundredsOfFeetRoundedUpTo300NM) {
   database.msa.push_back(sector);
   SetArea(sector, {8, 51, 9, 52, 0});
   database.msa.push_back(sector);
-  MapSwitches on = NothingShown();
+  MapSwitches on = NothingOn();
   on.mnuMSA = true;
   struct Case {
     Position centre;

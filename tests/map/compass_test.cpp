@@ -19,7 +19,7 @@ double DirectionOf(const RecordingSurface& surface, const std::string& text) {
 
 TEST(CompassLayer, IsTurnedToMagneticNorth) {
   NavDatabase database;
-  MapSwitches on = NothingShown();
+  MapSwitches on = NothingOn();
   on.mnuCompass = true;
   struct Case {
     float magVar;
@@ -37,7 +37,7 @@ TEST(CompassLayer, IsTurnedToMagneticNorth) {
 
 TEST(CompassLayer, LiesAroundTheMiddleAndOnThePage) {
   NavDatabase database;
-  MapSwitches on = NothingShown();
+  MapSwitches on = NothingOn();
   on.mnuCompass = true;
   const ColorSettings colors;
   const RecordingSurface surface = PaintedMap(database, ViewAtRow({-60, 179}, 20, 5), on);

@@ -9,7 +9,7 @@
 namespace {
 
 MapSwitches GridOnly() {
-  MapSwitches on = NothingShown();
+  MapSwitches on = NothingOn();
   on.mnuLatLong = true;
   return on;
 }

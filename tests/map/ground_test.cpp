@@ -24,7 +24,7 @@ void AddTaxiway(NavDatabase& database, float north, const char* name, const char
 }
 
 MapSwitches AirportsOnly() {
-  MapSwitches on = NothingShown();
+  MapSwitches on = NothingOn();
   on.mnuAirport = true;
   return on;
 }
@@ -70,7 +70,7 @@ TEST(GroundLayers, AreShownByRange) {
     EXPECT_EQ(surface.Count("line", colors.TAXI), c.lines) << c.row;
     EXPECT_EQ(surface.Texts().size(), c.names) << c.row;
   }
-  EXPECT_EQ(PaintedMap(database, ViewAtRow(field, 2), NothingShown()).drawn.size(), 1u);
+  EXPECT_EQ(PaintedMap(database, ViewAtRow(field, 2), NothingOn()).drawn.size(), 1u);
 }
 
 TEST(GroundLayers, HolesStayOpen) {
