@@ -172,6 +172,13 @@ TEST(AirportLayer, LabelsClaimInFileOrder) {
   EXPECT_NE(prints[1].y, 3550) << "pushed away, however long its runway";
 }
 
+TEST(AirportLayer, AnAirportsIlsComesBeforeItsOwnLabel) {
+  MapSwitches switches = NothingOn();
+  switches.mnuAirport = switches.mnuILS = switches.btnIcao = true;
+  const Painted map(TwoAirports(), ViewAt(9), switches);
+  EXPECT_EQ(map.surface.Texts(), (std::vector<std::string>{"IFNE", "EDDF", "EDFE"}));
+}
+
 TEST(AirportLabels, FollowTheSwitches) {
   const auto airport = RowAt<AirportRec>("EDDF", frankfurt, "Field");
   struct Case {
