@@ -8,6 +8,7 @@
 #include "map/airport_ground.h"
 #include "map/ils_layer.h"
 #include "map/range_steps.h"
+#include "map/rows_in_view.h"
 #include "map/symbol_label.h"
 
 namespace {
@@ -50,9 +51,9 @@ AirportSize SizeOf(const NavDatabase& database, const AirportRec& airport) {
 
 std::vector<ShownAirport> ShownAirports(const MapPaint& paint) {
   std::vector<ShownAirport> shown;
-  for (const std::int32_t row : paint.database.airportsByPlace.Near(paint.view.SearchBox(0))) {
+  for (const std::int32_t row :
+       RowsInView(paint.view, paint.database.airportsByPlace, paint.database.airports, 0)) {
     const AirportRec& airport = paint.database.airports[static_cast<std::size_t>(row)];
-    if (!paint.view.InView(airport.sngLat, airport.sngLon, 0)) continue;
     shown.push_back({row,
                      &airport,
                      {static_cast<float>(paint.projection.LonToX(airport.sngLon)),

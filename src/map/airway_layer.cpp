@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::int16_t labelRange = 100;
 constexpr std::int16_t altitudeRange = 75;
+constexpr std::size_t crowd = 250;  // segments
 
 // The farther the view, the denser the net: it steps back behind the map.
 constexpr std::array<RangeStep, 9> lineOpacity = {{{10, 0.8F},
@@ -83,7 +84,7 @@ void DrawAirways(const MapPaint& paint, const std::vector<AirwaySegmentRec>& tab
       return named;
     });
   paint.surface.DrawWidth = 1;
-  paint.surface.Opacity = ValueAt(lineOpacity, paint.RangeNM());
+  paint.surface.Opacity = WithRoom(ValueAt(lineOpacity, paint.RangeNM()), plain.size(), crowd);
   DrawSegments(paint, plain, color);
   const bool airwaySelected = selection.SelectedObjectType == SelectedObject::jetAirway ||
                               selection.SelectedObjectType == SelectedObject::victorAirway;

@@ -5,6 +5,7 @@
 #include "base/code_page.h"
 #include "base/numbers.h"
 #include "map/range_steps.h"
+#include "map/rows_in_view.h"
 #include "map/symbol_label.h"
 
 namespace {
@@ -84,9 +85,9 @@ void DrawIlsOf(const MapPaint& paint, const AirportRec& airport) {
 
 void DrawPendingIls(const MapPaint& paint) {
   const auto behindTable = static_cast<std::int32_t>(paint.database.ils.size());
-  for (const std::int32_t row : paint.database.pendingIlsByPlace.Near(paint.view.SearchBox(navaidMargin))) {
+  for (const std::int32_t row :
+       RowsInView(paint.view, paint.database.pendingIlsByPlace, paint.database.pendingIls, navaidMargin)) {
     const IlsRec& ils = paint.database.pendingIls[static_cast<std::size_t>(row)];
-    if (!paint.view.InView(ils.sngLat, ils.sngLon, navaidMargin)) continue;
     DrawIls(paint, ils, ils.sngMagVar, paint.selection.Holds(SelectedObject::ils, behindTable + row));
   }
 }

@@ -5,6 +5,7 @@
 #include "base/code_page.h"
 #include "base/numbers.h"
 #include "map/range_steps.h"
+#include "map/rows_in_view.h"
 #include "map/symbol_label.h"
 
 namespace {
@@ -18,8 +19,14 @@ constexpr float vorHalfSize = 50;
 constexpr std::int16_t dme = 9;
 
 // Beyond the reach of their use, stations step back behind coast and plan.
-constexpr std::array<RangeStep, 7> vorOpacity = {
-    {{200, 1}, {300, 0.8F}, {400, 0.65F}, {600, 0.5F}, {900, 0.4F}, {2000, 0.1F}, {6000, 0.05F}}};
+constexpr std::array<RangeStep, 8> vorOpacity = {{{150, 0.85F},
+                                                  {200, 1},
+                                                  {300, 0.8F},
+                                                  {400, 0.65F},
+                                                  {600, 0.5F},
+                                                  {900, 0.4F},
+                                                  {2000, 0.1F},
+                                                  {6000, 0.05F}}};
 constexpr std::array<RangeStep, 7> vorLabelOpacity = {
     {{150, 1}, {200, 0.9F}, {300, 0.7F}, {400, 0.55F}, {500, 0.45F}, {700, 0.35F}, {900, 0.3F}}};
 constexpr std::array<RangeStep, 8> ndbOpacity = {
@@ -29,7 +36,7 @@ constexpr std::array<RangeStep, 7> ndbLabelOpacity = {
 constexpr std::array<RangeStep, 6> roseRadius = {
     {{10, 420}, {30, 340}, {50, 280}, {75, 220}, {100, 180}, {150, 140}}};
 constexpr std::array<RangeStep, 3> ringRadius = {{{30, 110}, {75, 90}, {6000, 76}}};
-constexpr float roseOpacity = 0.85F;
+constexpr std::size_t crowd = 60;  // stations
 
 void Prepare(const MapPaint& paint, float x, float y, std::int32_t color) {
   clsNavaid& symbol = paint.navaid;
@@ -92,12 +99,11 @@ void DrawVors(const MapPaint& paint) {
   surface.FontSize = LabelPoints(paint.settings, 8);
   surface.TextHalo = paint.RangeNM() <= haloRange;
   paint.navaid.sngLength = vorHalfSize;
-  const float opacity =
-      ValueAt(vorOpacity, paint.RangeNM()) * (paint.RangeNM() <= fullRange ? roseOpacity : 1);
-  const float labelOpacity = ValueAt(vorLabelOpacity, paint.RangeNM());
-  for (const std::int32_t row : paint.database.vorsByPlace.Near(paint.view.SearchBox(navaidMargin))) {
+  const auto rows = RowsInView(paint.view, paint.database.vorsByPlace, paint.database.vors, navaidMargin);
+  const float opacity = WithRoom(ValueAt(vorOpacity, paint.RangeNM()), rows.size(), crowd);
+  const float labelOpacity = WithRoom(ValueAt(vorLabelOpacity, paint.RangeNM()), rows.size(), crowd);
+  for (const std::int32_t row : rows) {
     const VorRec& vor = paint.database.vors[static_cast<std::size_t>(row)];
-    if (!paint.view.InView(vor.sngLat, vor.sngLon, navaidMargin)) continue;
     const bool selected = paint.selection.Holds(SelectedObject::vor, row);
     const auto x = static_cast<float>(paint.projection.LonToX(vor.sngLon));
     const auto y = static_cast<float>(paint.projection.LatToY(vor.sngLat));
@@ -116,11 +122,11 @@ void DrawNdbs(const MapPaint& paint) {
   surface.DrawWidth = 1;
   surface.FontSize = LabelPoints(paint.settings, 7.5F);
   surface.TextHalo = paint.RangeNM() <= haloRange;
-  const float opacity = ValueAt(ndbOpacity, paint.RangeNM());
-  const float labelOpacity = ValueAt(ndbLabelOpacity, paint.RangeNM());
-  for (const std::int32_t row : paint.database.ndbsByPlace.Near(paint.view.SearchBox(navaidMargin))) {
+  const auto rows = RowsInView(paint.view, paint.database.ndbsByPlace, paint.database.ndbs, navaidMargin);
+  const float opacity = WithRoom(ValueAt(ndbOpacity, paint.RangeNM()), rows.size(), crowd);
+  const float labelOpacity = WithRoom(ValueAt(ndbLabelOpacity, paint.RangeNM()), rows.size(), crowd);
+  for (const std::int32_t row : rows) {
     const NdbRec& ndb = paint.database.ndbs[static_cast<std::size_t>(row)];
-    if (!paint.view.InView(ndb.sngLat, ndb.sngLon, navaidMargin)) continue;
     const bool selected = paint.selection.Holds(SelectedObject::ndb, row);
     const auto x = static_cast<float>(paint.projection.LonToX(ndb.sngLon));
     const auto y = static_cast<float>(paint.projection.LatToY(ndb.sngLat));

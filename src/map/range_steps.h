@@ -2,7 +2,9 @@
 // layer steps back behind the map.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 struct RangeStep {
@@ -16,4 +18,12 @@ constexpr float ValueAt(const std::array<RangeStep, N>& steps, std::int16_t rang
   for (const RangeStep& step : steps)
     if (range <= step.range) return step.value;
   return steps.back().value;
+}
+
+// Nothing has to step back in an empty view: an opacity rises towards almost
+// full as the number of things in view falls below a crowd.
+constexpr float WithRoom(float opacity, std::size_t shown, std::size_t crowd) {
+  constexpr float alone = 0.9F;
+  const float room = 1 - std::min(1.0F, static_cast<float>(shown) / static_cast<float>(crowd));
+  return opacity + std::max(0.0F, alone - opacity) * room;
 }

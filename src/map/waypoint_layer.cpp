@@ -4,6 +4,7 @@
 
 #include "base/code_page.h"
 #include "map/range_steps.h"
+#include "map/rows_in_view.h"
 #include "map/symbol_label.h"
 
 namespace {
@@ -14,6 +15,7 @@ constexpr float halfSize = 30;
 constexpr float userHalfSize = 40;
 constexpr float labelDrop = 75;
 constexpr float userLabelDrop = 150;
+constexpr std::size_t crowd = 150;  // points
 
 constexpr std::array<RangeStep, 9> symbolOpacity = {{{50, 0.9F},
                                                      {100, 0.75F},
@@ -56,15 +58,16 @@ bool IsShown(const IntersectionRec& intersection, const MapSwitches& switches) {
 
 void DrawIntersections(const MapPaint& paint) {
   Prepare(paint);
+  const auto rows =
+      RowsInView(paint.view, paint.database.intersectionsByPlace, paint.database.intersections, navaidMargin);
+  const float opacity = WithRoom(ValueAt(symbolOpacity, paint.RangeNM()), rows.size(), crowd);
   std::string label;
-  for (const std::int32_t row :
-       paint.database.intersectionsByPlace.Near(paint.view.SearchBox(navaidMargin))) {
+  for (const std::int32_t row : rows) {
     const IntersectionRec& intersection = paint.database.intersections[static_cast<std::size_t>(row)];
-    if (!paint.view.InView(intersection.sngLat, intersection.sngLon, navaidMargin)) continue;
     if (!IsShown(intersection, paint.switches)) continue;
     const bool selected = paint.selection.Holds(SelectedObject::intersection, row);
     clsNavaid& symbol = SymbolAt(paint, intersection, selected ? paint.colors.HILITE : paint.colors.INT);
-    paint.surface.Opacity = selected ? 1 : ValueAt(symbolOpacity, paint.RangeNM());
+    paint.surface.Opacity = selected ? 1 : opacity;
     symbol.DrawAsIntersection();
     if (paint.RangeNM() > intersectionLabelRange) continue;
     label.clear();
@@ -80,12 +83,13 @@ void DrawIntersections(const MapPaint& paint) {
 void DrawFixes(const MapPaint& paint) {
   Prepare(paint);
   const bool labelled = paint.switches.btnIcao && paint.RangeNM() <= fixLabelRange;
-  for (const std::int32_t row : paint.database.fixesByPlace.Near(paint.view.SearchBox(navaidMargin))) {
+  const auto rows = RowsInView(paint.view, paint.database.fixesByPlace, paint.database.fixes, navaidMargin);
+  const float opacity = WithRoom(ValueAt(symbolOpacity, paint.RangeNM()), rows.size(), crowd);
+  for (const std::int32_t row : rows) {
     const FixRec& fix = paint.database.fixes[static_cast<std::size_t>(row)];
-    if (!paint.view.InView(fix.sngLat, fix.sngLon, navaidMargin)) continue;
     const bool selected = paint.selection.Holds(SelectedObject::fix, row);
     clsNavaid& symbol = SymbolAt(paint, fix, selected ? paint.colors.HILITE : paint.colors.FIX);
-    paint.surface.Opacity = selected ? 1 : ValueAt(symbolOpacity, paint.RangeNM());
+    paint.surface.Opacity = selected ? 1 : opacity;
     symbol.DrawAsIntersection();
     if (!labelled) continue;
     paint.surface.Opacity = 1;
@@ -99,10 +103,9 @@ void DrawUserWaypoints(const MapPaint& paint) {
   paint.navaid.sngLength = userHalfSize;
   DrawSurface& surface = paint.surface;
   surface.DrawWidth = 1.3F;
-  for (const std::int32_t row :
-       paint.database.userWaypointsByPlace.Near(paint.view.SearchBox(navaidMargin))) {
+  for (const std::int32_t row : RowsInView(paint.view, paint.database.userWaypointsByPlace,
+                                           paint.database.userWaypoints, navaidMargin)) {
     const UserWaypointRec& waypoint = paint.database.userWaypoints[static_cast<std::size_t>(row)];
-    if (!paint.view.InView(waypoint.sngLat, waypoint.sngLon, navaidMargin)) continue;
     clsNavaid& symbol = SymbolAt(paint, waypoint, paint.colors.USER);
     symbol.DrawAsVRP();
     const std::string name = CodePageToUtf8(waypoint.strName.View());

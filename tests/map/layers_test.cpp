@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "map/range_steps.h"
 #include "tests/map/painted.h"
 
 namespace {
@@ -40,6 +41,17 @@ TEST(DrawingOrder, KeepsLayersOfOnePlaceAsTheyCome) {
   for (const MapLayer& one : ordered)
     names += one.name;
   EXPECT_EQ(names, "gbav");
+}
+
+TEST(SteppingBack, ByRangeUnlessThereIsRoom) {
+  constexpr std::array<RangeStep, 2> steps = {{{50, 0.8F}, {200, 0.4F}}};
+  EXPECT_EQ(ValueAt(steps, 50), 0.8F);
+  EXPECT_EQ(ValueAt(steps, 75), 0.4F);
+  EXPECT_EQ(ValueAt(steps, 6000), 0.4F) << "beyond the last step as in it";
+  EXPECT_FLOAT_EQ(WithRoom(0.4F, 0, 100), 0.9F);
+  EXPECT_FLOAT_EQ(WithRoom(0.4F, 50, 100), 0.65F);
+  EXPECT_FLOAT_EQ(WithRoom(0.4F, 5000, 100), 0.4F);
+  EXPECT_EQ(WithRoom(1, 0, 100), 1) << "never less than it was";
 }
 
 }  // namespace
