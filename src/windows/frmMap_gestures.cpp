@@ -22,6 +22,13 @@ Position WaypointPosition(const PlanWaypoint& waypoint) {
   return {waypoint.Lat, waypoint.Lon};
 }
 
+// Kept within what is seen of the map.
+void PlaceLabel(QLabel& label, QPoint corner, const QRect& seen) {
+  const int right = std::max(seen.left(), seen.right() + 1 - label.width());
+  const int bottom = std::max(seen.top(), seen.bottom() + 1 - label.height());
+  label.move(std::clamp(corner.x(), seen.left(), right), std::clamp(corner.y(), seen.top(), bottom));
+}
+
 }  // namespace
 
 void frmMap::ConnectCanvas() {
@@ -169,23 +176,12 @@ void frmMap::FollowPointer() {
   overlayShown = shown;
 }
 
-namespace {
-
-// Kept within the map.
-void PlaceLabel(QLabel& label, QPoint corner, QSize map) {
-  const int right = std::max(0, map.width() - label.width());
-  const int bottom = std::max(0, map.height() - label.height());
-  label.move(std::clamp(corner.x(), 0, right), std::clamp(corner.y(), 0, bottom));
-}
-
-}  // namespace
-
 void frmMap::PlaceMapLabels() {
   if (measure.visible) {
     lblMeasure->setText(QString::fromStdString(measure.Caption(session.view.MapMagVar)));
     lblMeasure->adjustSize();
     const QPoint place = Map->ToPixel(measure.label.x, measure.label.y);
-    PlaceLabel(*lblMeasure, place + QPoint(labelOffset, labelOffset), Map->size());
+    PlaceLabel(*lblMeasure, place + QPoint(labelOffset, labelOffset), Map->Seen());
   }
   lblMeasure->setVisible(measure.visible);
   const auto leg = Leg();
@@ -197,7 +193,7 @@ void frmMap::PlaceMapLabels() {
     // Left of and above the pointer: the box of what lies there opens on the other side.
     const QPoint place = Map->ToPixel(pointerAt.x, pointerAt.y);
     const QPoint size(lblCourseRadial->width(), lblCourseRadial->height());
-    PlaceLabel(*lblCourseRadial, place - QPoint(labelOffset, labelOffset) - size, Map->size());
+    PlaceLabel(*lblCourseRadial, place - QPoint(labelOffset, labelOffset) - size, Map->Seen());
   }
   lblCourseRadial->setVisible(legShown);
 }

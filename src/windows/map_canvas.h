@@ -37,6 +37,8 @@ class MapCanvas : public QWidget {
   SurfacePoint PlatesCorner() const { return Placement().ToUnits(QPointF(0, platesTop)); }
   // Pixels at the upper edge that something else covers.
   void SetPlatesTop(int pixels);
+  // What is not covered, in pixels.
+  QRect Seen() const { return rect().adjusted(0, platesTop, 0, 0); }
   // The menu of the right button, at the middle of what is seen.
   void AskMenu();
   // Where a point of the page is in the widget.

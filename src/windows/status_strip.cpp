@@ -7,15 +7,22 @@
 
 namespace {
 
-// The longest text that a panel usually shows; none for a panel that is mostly empty.
+// The longest text that a panel usually shows, with a nought for any digit; none
+// for a panel that is mostly empty.
 constexpr std::array<const char*, statusPanelCount> widestTexts = {"00:00:00 LOCAL",
-                                                                   "6000NM",
-                                                                   "MagVar: 00.0° W",
-                                                                   "N 88° 88' 88\" / W 188° 88' 88\"",
+                                                                   "0000NM",
+                                                                   "MagVar: W 000°",
+                                                                   "N00°00.0000' - W000°00.0000'",
                                                                    "",
-                                                                   "N 88° 88' 88\" - W 188° 88' 88\"",
+                                                                   "N00°00.0000' - W000°00.0000'",
                                                                    ""};
-constexpr int sideRoom = 28;  // padding of the style sheet and the border
+
+QString WithWidestDigits(const QString& text, const QFontMetrics& metrics) {
+  QChar widest = '0';
+  for (char digit = '1'; digit <= '9'; ++digit)
+    if (metrics.horizontalAdvance(digit) > metrics.horizontalAdvance(widest)) widest = digit;
+  return QString(text).replace('0', widest);
+}
 
 }  // namespace
 
@@ -42,8 +49,13 @@ StatusStrip::StatusStrip(QWidget* parent) : QFrame(parent) {
 void StatusStrip::SetWidths() {
   for (std::size_t i = 0; i < lblMapStatus.size(); ++i) {
     const QString widest = QString::fromUtf8(widestTexts[i]);
-    if (!widest.isEmpty())
-      lblMapStatus[i]->setMinimumWidth(fontMetrics().horizontalAdvance(widest) + sideRoom);
+    if (widest.isEmpty()) continue;
+    QLabel& label = *lblMapStatus[i];
+    label.ensurePolished();
+    const QString shown = label.text();
+    label.setText(WithWidestDigits(widest, label.fontMetrics()));
+    label.setMinimumWidth(label.sizeHint().width());
+    label.setText(shown);
   }
 }
 

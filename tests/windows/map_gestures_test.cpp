@@ -302,6 +302,11 @@ TEST_F(Gestures, TheSelectedWaypointsBearingLine) {
   Trigger("mnuBearingLine");
   PointAt(PixelOf(0, 6));
   ASSERT_TRUE(label.isVisible());
+  auto& ribbon = Find<ToggleRibbon>("pnlToggleButtons");
+  PointAt(5000, 300);
+  EXPECT_TRUE(ribbon.isVisible());
+  EXPECT_FALSE(ribbon.geometry().intersects(label.geometry())) << "the label keeps off the ribbon";
+  PointAt(PixelOf(0, 6));
   EXPECT_TRUE(label.text().contains("HDG: ") && label.text().contains("RDL: ")) << label.text().toStdString();
   Trigger("mnuInbound");
   EXPECT_TRUE(label.text().contains("Inbound: ")) << label.text().toStdString();
@@ -346,6 +351,36 @@ TEST_F(Gestures, TheStatusPanels) {
   EXPECT_EQ(Panel(3), "50.0000 / 008.5000");
   ClickPanel(3);
   EXPECT_TRUE(Panel(3).startsWith("N50")) << Panel(3).toStdString();
+}
+
+TEST_F(Gestures, ThePanelsStayWhereTheyAre) {
+  Open();
+  PointAt(5000, 3000);
+  QApplication::processEvents();
+  const auto places = [&] {
+    std::vector<QRect> found;
+    QApplication::processEvents();
+    for (const int panel : {0, 1, 2, 3, 5})
+      found.push_back(Find<QLabel>(QString("lblMapStatus(%1)").arg(panel)).geometry());
+    return found;
+  };
+  const std::vector<QRect> before = places();
+  const std::function<void()> changes[] = {
+      [&] { ClickPanel(0); },
+      [&] { Trigger("mnu2000NM"); },
+      [&] { Trigger("mnu3NM"); },
+      [&] {
+        session.settings.DECSEC = 0;
+        Look(-77.888F, -166.6666F, "mnu10NM");
+      },
+      [&] { QTest::mouseClick(&Map(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50)); },
+      [&] { ClickPanel(3); },
+      [&] { ClickPanel(5); },
+  };
+  for (const auto& change : changes) {
+    change();
+    EXPECT_EQ(places(), before);
+  }
 }
 
 TEST_F(Gestures, ThePointersPanelHasThreeModes) {
