@@ -22,7 +22,8 @@ constexpr double labelWhite = 0.45;  // texts are thinner than areas and need mo
 // Of outlines; the farther the view, the smaller the zones and the denser.
 constexpr std::array<RangeStep, 5> outlineOpacity = {
     {{100, 1}, {200, 0.85F}, {400, 0.6F}, {900, 0.4F}, {6000, 0.25F}}};
-constexpr std::array<RangeStep, 3> fillOpacity = {{{50, 0.22F}, {200, 0.3F}, {6000, 0}}};
+// Too near, a fill is the whole page; too far, all of them are one.
+constexpr std::array<RangeStep, 4> fillOpacity = {{{5, 0}, {50, 0.22F}, {200, 0.3F}, {6000, 0}}};
 
 using Rings = std::vector<std::vector<SurfacePoint>>;
 
@@ -40,8 +41,10 @@ std::int32_t ColorOf(const AirspaceRec& airspace, const ColorSettings& colors) {
 // The rings are closed, also where the file leaves out the last side.
 Rings RingsOf(const MapPaint& paint, const AirspaceRec& airspace, const ClipRect& page) {
   Rings rings = ShapeOnPage(paint.projection, airspace.points, page);
-  for (auto& ring : rings)
+  for (auto& ring : rings) {
     ring.push_back(ring.front());
+    ThinOut(ring, paint.surface.UnitsPerPixel());
+  }
   return rings;
 }
 

@@ -6,6 +6,7 @@
 
 #include "base/numbers.h"
 #include "map/geo_line.h"
+#include "map/mixed_color.h"
 
 namespace {
 
@@ -14,7 +15,9 @@ constexpr std::int32_t perDegree = 60 * perMinute;
 constexpr double leastSpacing = 1000;  // units between two lines: at most seven across the page's height
 constexpr float lineOpacity = 0.55F;
 constexpr float edgeGap = 40;  // units between a text and the edge, and a text and its line
-constexpr float textPoints = 7.5F;
+constexpr float textPoints = 8;
+constexpr std::int32_t white = 0xFFFFFF;
+constexpr double textWhite = 0.3;  // texts are thinner than lines look and need more light
 
 constexpr std::array<std::int32_t, 17> steps = {
     1,
@@ -131,7 +134,7 @@ void DrawGrid(const MapPaint& paint) {
   surface.Opacity = lineOpacity;
   surface.Lines(lines, paint.colors.LATLONG);
   surface.Opacity = 1;
-  surface.ForeColor = paint.colors.LATLONG;
+  surface.ForeColor = Mixed(paint.colors.LATLONG, white, textWhite);
   surface.FontSize = textPoints;
   surface.TextHalo = true;
   PrintLabels(surface, lats, lons, page.left);

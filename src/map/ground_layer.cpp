@@ -13,6 +13,7 @@ namespace {
 constexpr double metresPerDegree = 111130.556;
 constexpr float clipMargin = 60;       // units beyond the page
 constexpr double pavementPart = 0.24;  // of TAXI in LAND: pavement at night
+constexpr float groundDetail = 0.5F;   // pixels between two points of an outline
 constexpr float thinnestBand = 1.5F;   // pixels; narrower taxiways are their centrelines alone
 constexpr std::string_view paintedLine =
     "LINE";  // strType: lies on a ground polygon, which shows its pavement
@@ -120,8 +121,10 @@ void DrawGroundPolygons(const MapPaint& paint) {
     const GroundShape& shape = database.groundShapes[static_cast<std::size_t>(row)];
     const auto rows = std::span(database.polygons).subspan(shape.firstRow, shape.rowCount);
     if (!paint.view.InView(rows.front().sngLat, rows.front().sngLon, 0)) continue;
-    for (const auto& ring : ShapeOnPage(paint.projection, JoinedRings(rows), page))
+    for (auto& ring : ShapeOnPage(paint.projection, JoinedRings(rows), page)) {
+      ThinOut(ring, groundDetail * paint.surface.UnitsPerPixel());
       paint.navaid.DrawAsPolygon(ClipPolygon(ring, page));
+    }
   }
 }
 

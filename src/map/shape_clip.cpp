@@ -1,6 +1,7 @@
 #include "map/shape_clip.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -49,6 +50,17 @@ std::vector<SurfacePoint> ClipPolygon(std::span<const SurfacePoint> shape, const
       a, b, [&](SurfacePoint p) { return p.y <= rect.bottom; },
       [&](SurfacePoint p, SurfacePoint q) { return AtY(p, q, rect.bottom); });
   return b;
+}
+
+void ThinOut(std::vector<SurfacePoint>& line, float distance) {
+  if (line.size() < 3) return;
+  std::size_t kept = 1;
+  for (std::size_t i = 1; i < line.size(); ++i) {
+    const bool near = std::abs(line[i].x - line[kept - 1].x) < distance &&
+                      std::abs(line[i].y - line[kept - 1].y) < distance;
+    if (!near || i + 1 == line.size()) line[kept++] = line[i];
+  }
+  line.resize(kept);
 }
 
 bool ClipLine(SurfacePoint& a, SurfacePoint& b, const ClipRect& rect) {

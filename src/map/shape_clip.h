@@ -20,6 +20,10 @@ struct ClipRect {
 // leaves and comes back it runs along the edge). Empty if nothing is left.
 std::vector<SurfacePoint> ClipPolygon(std::span<const SurfacePoint> shape, const ClipRect& rect);
 
+// Leaves out the points that lie nearer than distance, in x and in y, to the
+// one kept before; the first and the last stay.
+void ThinOut(std::vector<SurfacePoint>& line, float distance);
+
 // Cuts the line from a to b to its part within the rectangle; false, and both
 // as they were, if there is none. A line that only touches an edge has a part.
 bool ClipLine(SurfacePoint& a, SurfacePoint& b, const ClipRect& rect);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -38,6 +39,20 @@ TEST(ClipPolygon, KeepsWhatLiesOnThePage) {
     for (const SurfacePoint p : clipped)
       EXPECT_TRUE(page.Contains(p)) << c.why;
   }
+}
+
+TEST(ThinOut, KeepsBothEndsAndTheShape) {
+  std::vector<SurfacePoint> line;
+  for (int i = 0; i <= 100; ++i)
+    line.push_back({static_cast<float>(i) * 0.3F, i == 50 ? 40.0F : 0.0F});
+  ThinOut(line, 1);
+  EXPECT_LT(line.size(), 30u);
+  EXPECT_EQ(line.front().x, 0);
+  EXPECT_FLOAT_EQ(line.back().x, 30);
+  EXPECT_TRUE(std::any_of(line.begin(), line.end(), [](SurfacePoint p) { return p.y == 40; }));
+  std::vector<SurfacePoint> dot{{5, 5}, {5, 5}, {5, 5}};
+  ThinOut(dot, 1);
+  EXPECT_EQ(dot.size(), 2u);
 }
 
 TEST(ClipLine, KeepsThePartOnThePage) {
