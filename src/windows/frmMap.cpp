@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <filesystem>
 
 #include "base/error_trap.h"
 #include "flightplan/plan_layers.h"
@@ -81,6 +82,9 @@ void frmMap::Trapped(std::string_view head, const std::function<void()>& body) {
 }
 
 void frmMap::OpenView() {
+  // The first start remembers the window's place, until the pilot says otherwise.
+  std::error_code error;
+  if (!std::filesystem::exists(session.home.Resolve("\\vlm.ini"), error)) session.settings.REMWINPOS = -1;
   session.switches = SwitchesFrom(session.settings);
   session.view = MapView::At(firstCentre.lat, firstCentre.lon, session.settings.SCALE);
   session.view.LastMagVarLat = firstCentre.lat;

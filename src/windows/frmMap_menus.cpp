@@ -5,7 +5,6 @@
 #include <QShortcut>
 #include <QToolBar>
 #include <QToolButton>
-#include <filesystem>
 
 #include "map/map_objects_near.h"
 #include "windows/frmMap.h"
@@ -140,9 +139,6 @@ void frmMap::BuildPanelsMenu(QMenu* view) {
                               session.settings.MZOOM = on ? 1 : 0;
                               Map->wheelZooms = on;
                             }));
-  // The first start remembers, until the pilot says otherwise.
-  std::error_code error;
-  if (!std::filesystem::exists(session.home.Resolve("\\vlm.ini"), error)) session.settings.REMWINPOS = -1;
   view->addAction(AddToggle("mnuRemWinPos", tr("Remem&ber window place"), session.settings.REMWINPOS != 0,
                             [this](bool on) { session.settings.REMWINPOS = on ? -1 : 0; }));
 }
