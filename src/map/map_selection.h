@@ -1,4 +1,5 @@
-// What the pilot has picked out on the map: it is drawn in colour HILITE.
+// What the pilot has picked out on the map: it is drawn in colour HILITE. The
+// rows of ILS without an airport count on behind those of the airports.
 #pragma once
 
 #include <cstdint>
