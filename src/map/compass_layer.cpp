@@ -27,7 +27,8 @@ double TickLength(int mark) {
 std::string MarkText(int mark) {
   constexpr std::array<const char*, 4> cardinals = {"N", "E", "S", "W"};
   if (mark % 90 == 0) return cardinals[static_cast<std::size_t>(mark / 90)];
-  return FormatPicture(mark / 10, "00");
+  const int tens = mark / 10;
+  return FormatPicture(tens, "00");
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ std::vector<std::vector<SurfacePoint>> ShapeOnPage(const Projection& projection,
   double west = 1e9, east = -1e9, south = 1e9, north = -1e9;
   double before = 0;
   for (const Position place : shape) {
-    if (!std::isfinite(place.lat) || !std::isfinite(place.lon)) continue;
+    if (!IsOnMap(place)) continue;
     const double step = place.lon - before;
     if (!whole.empty() && std::abs(step) > 180) turn += step > 0 ? -360 : 360;
     before = place.lon;

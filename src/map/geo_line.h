@@ -19,7 +19,7 @@ ClipRect OneWorldPage(const Projection& projection, float margin);
 
 // A shape on the page: its points, once for each turn of the world at which it
 // may touch the rectangle. A shape that crosses the date line stays whole.
-// Points that are no numbers are passed over.
+// Points that are not on the map are passed over.
 std::vector<std::vector<SurfacePoint>> ShapeOnPage(const Projection& projection,
                                                    std::span<const Position> shape, const ClipRect& page);
 

@@ -78,9 +78,11 @@ void PrintLabels(DrawSurface& surface, const std::vector<GridLabel>& lats, const
 std::string DegreesText(std::int32_t quarterMinutes, const char* wholeDegrees) {
   const std::int32_t value = std::abs(quarterMinutes);
   const std::int32_t rest = value % perDegree;
-  std::string text = FormatPicture(value / perDegree, wholeDegrees) + "°";
+  const std::int32_t degrees = value / perDegree;
+  const std::int32_t minutes = rest / perMinute;
+  std::string text = FormatPicture(degrees, wholeDegrees) + "°";
   if (rest % perMinute != 0) return text + FormatPicture(rest / double{perMinute}, "00.00") + "'";
-  return rest == 0 ? text : text + FormatPicture(rest / perMinute, "00") + "'";
+  return rest == 0 ? text : text + FormatPicture(minutes, "00") + "'";
 }
 
 }  // namespace

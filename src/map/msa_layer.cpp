@@ -1,5 +1,6 @@
 #include "map/msa_layer.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -15,7 +16,7 @@ constexpr float textOpacity = 0.8F;
 constexpr double feetPerUnit = 100;
 constexpr std::array<RangeStep, 3> textPoints = {{{50, 16}, {150, 13}, {300, 9}}};
 
-// The corners, once round. East of the date line's cells longitudes run on.
+// The corners, once round.
 std::array<Position, 5> CornersOf(const MsaArea& area) {
   return {{{area.north, area.west},
            {area.north, area.east},
@@ -49,7 +50,9 @@ void DrawMsa(const MapPaint& paint) {
   for (const std::int32_t row : paint.database.msaByBox.Near(paint.view.SearchBox(navaidMargin))) {
     const MsaArea area = AreaOf(paint.database.msa[static_cast<std::size_t>(row)]);
     if (!(area.altitudeFeet > 0) || !(area.south < area.north)) continue;
-    for (const auto& cell : ShapeOnPage(paint.projection, CornersOf(area), page)) {
+    const auto corners = CornersOf(area);
+    if (!std::all_of(corners.begin(), corners.end(), IsOnMap)) continue;
+    for (const auto& cell : ShapeOnPage(paint.projection, corners, page)) {
       LineClipper clipper(page);
       for (const SurfacePoint corner : cell)
         clipper.Add(corner);

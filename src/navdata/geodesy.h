@@ -6,6 +6,7 @@
 // crash; the epsilons keep equal points and equal meridians defined.
 #pragma once
 
+#include <cmath>
 #include <string>
 
 constexpr double geodesyPi = 3.14159265;
@@ -18,6 +19,12 @@ struct Position {
   float lon = 0;
   friend bool operator==(const Position&, const Position&) = default;
 };
+
+// True for a place that a map can show: two numbers, a longitude within
+// -180..180. Shapes around a pole may reach beyond it.
+inline bool IsOnMap(Position place) {
+  return std::isfinite(place.lat) && place.lon >= -180 && place.lon <= 180;
+}
 
 double DegToRad(double deg);
 double RadToDeg(double rad);

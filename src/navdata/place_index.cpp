@@ -17,14 +17,18 @@ int CellColumn(double lon) {
   return std::clamp(static_cast<int>(std::floor(lon)) + 180, 0, cellColumns - 1);
 }
 
+std::size_t CellAt(int row, int column) {
+  return static_cast<std::size_t>(row) * cellColumns + static_cast<std::size_t>(column);
+}
+
 std::size_t CellOf(Position place) {
   const auto lat = std::clamp(static_cast<double>(place.lat), -90.0, 90.0);
   const auto lon = std::clamp(static_cast<double>(place.lon), -180.0, 180.0);
-  return static_cast<std::size_t>(CellRow(lat)) * cellColumns + static_cast<std::size_t>(CellColumn(lon));
+  return CellAt(CellRow(lat), CellColumn(lon));
 }
 
 // A box over more cells than this is not worth its entries.
-constexpr int mostCellsPerBox = 400;
+constexpr int mostCellsPerBox = 100;
 
 struct CellRange {
   int firstRow, lastRow, west, east;
@@ -54,7 +58,7 @@ GeoBox BoxAround(std::span<const Position> points) {
   double before = 0;
   bool first = true;
   for (const Position point : points) {
-    if (!std::isfinite(point.lat) || !(std::abs(point.lon) <= 180)) continue;
+    if (!IsOnMap(point)) continue;
     const double step = point.lon - before;
     if (!first && std::abs(step) > 180) turn += step > 0 ? -360 : 360;
     before = point.lon;
@@ -89,8 +93,7 @@ PlaceIndex PlaceIndex::BuildForBoxes(const std::vector<GeoBox>& boxes) {
     }
     for (int line = cells.firstRow; line <= cells.lastRow; ++line)
       for (int i = 0; i < cells.Columns(); ++i)
-        byCell[static_cast<std::size_t>(line * cellColumns + (cells.west + i) % cellColumns)].push_back(
-            static_cast<std::int32_t>(row));
+        byCell[CellAt(line, (cells.west + i) % cellColumns)].push_back(static_cast<std::int32_t>(row));
   }
   index.cellStart.assign(cellCount + 1, 0);
   for (std::size_t cell = 0; cell < cellCount; ++cell) {

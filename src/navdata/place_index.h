@@ -19,7 +19,7 @@ struct GeoBox {
 };
 
 // The smallest box around a shape's points, which follow each other the shorter
-// way round the world. Points that are no numbers are passed over; a shape
+// way round the world. Points that are not on the map are passed over; a shape
 // without points gives a box that holds nothing (south above north).
 GeoBox BoxAround(std::span<const Position> points);
 

@@ -118,8 +118,17 @@ TEST(MsaLayer, ShowsHundredsOfFeetRoundedUpTo300NM) {
   database.msa.push_back(sector);
   SetArea(sector, {179, 50, -179, 51, 900});
   database.msa.push_back(sector);
-  SetArea(sector, {8, 51, 9, 52, 0});
-  database.msa.push_back(sector);
+  // Nothing to tell, no place, no numbers.
+  const float nan = std::nanf("");
+  for (const MsaArea& broken : {MsaArea{8, 51, 9, 52, 0},
+                                {170, 50, 200, 51, 900},
+                                {nan, 50, 9, 51, 900},
+                                {8, 50, 9, nan, 900},
+                                {8, 51, 9, 50, 900},
+                                {8, 50, 9, 51, nan}}) {
+    SetArea(sector, broken);
+    database.msa.push_back(sector);
+  }
   MapSwitches on = NothingOn();
   on.mnuMSA = true;
   struct Case {
