@@ -207,7 +207,7 @@ void frmMap::AddButton(QToolBar* bar, QAction* action, const QString& name, cons
   button->setToolButtonStyle(text.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
   button->setIconSize(QSize(18, 18));
   button->setFocusPolicy(Qt::TabFocus);
-  button->setAccessibleName(action->toolTip());
+  button->setAccessibleName(TipOf(*action));
   const auto label = [button, action, text] {
     if (!text.isEmpty()) button->setText(text);
     button->setToolTip(TipOf(*action));

@@ -15,8 +15,11 @@ constexpr int border = 4;
 }  // namespace
 
 QString TipOf(const QAction& action) {
-  QString tip = action.toolTip();
-  const QString keys = action.shortcut().toString(QKeySequence::NativeText);
+  // A key that is no shortcut of the action's own stands behind a tab, as menus show it.
+  const QString text = action.toolTip();
+  QString keys = action.shortcut().toString(QKeySequence::NativeText);
+  if (keys.isEmpty()) keys = text.section('\t', 1, 1);
+  const QString tip = text.section('\t', 0, 0);
   return keys.isEmpty() ? tip : tip + " (" + keys + ")";
 }
 

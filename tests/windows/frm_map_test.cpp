@@ -107,6 +107,7 @@ TEST_F(Window, EveryToggleOfTheRibbonHasAPictureOfItsOwnAndATip) {
     EXPECT_TRUE(button->toolTip().contains('(')) << button->objectName().toStdString() << " tells its keys";
   }
   EXPECT_EQ(pictures.size(), 22u);
+  EXPECT_EQ(Find<QToolButton>("cmdZoom").toolTip(), "Zoom in (Page Down)");
 }
 
 TEST_F(Window, TheRibbonFitsASmallScreen) {
