@@ -6,11 +6,20 @@
 
 namespace {
 
-// Weight 0 to 256.
+// Weight 0 to 256. Red and blue are mixed at one go: what one spills over falls
+// into the gap before the other.
 QRgb Mixed(QRgb below, QRgb color, int weight) {
-  const auto channel = [weight](int from, int to) { return from + (to - from) * weight / 256; };
-  return qRgb(channel(qRed(below), qRed(color)), channel(qGreen(below), qGreen(color)),
-              channel(qBlue(below), qBlue(color)));
+  constexpr QRgb redBlue = 0x00FF00FF;
+  constexpr QRgb green = 0x0000FF00;
+  const auto share = static_cast<QRgb>(weight);
+  const QRgb rest = 256 - share;
+  const QRgb rb = ((below & redBlue) * rest + (color & redBlue) * share) >> 8 & redBlue;
+  const QRgb g = ((below & green) * rest + (color & green) * share) >> 8 & green;
+  return 0xFF000000 | rb | g;
+}
+
+int WeightOf(float coverage) {
+  return std::clamp(static_cast<int>(coverage * 256 + 0.5F), 0, 256);
 }
 
 // One edge of Liang and Barsky's clipping; false if the line lies outside.
@@ -45,7 +54,21 @@ PixelGrid::PixelGrid(QImage& image)
 void BlendPixel(const PixelGrid& grid, int x, int y, QRgb color, float coverage) {
   if (x < 0 || y < 0 || x >= grid.width || y >= grid.height) return;
   QRgb& pixel = grid.Row(y)[x];
-  pixel = Mixed(pixel, color, std::clamp(static_cast<int>(coverage * 256), 0, 256));
+  pixel = Mixed(pixel, color, WeightOf(coverage));
+}
+
+void BlendSpan(const PixelGrid& grid, int from, int to, int y, QRgb color, float coverage) {
+  const int weight = WeightOf(coverage);
+  from = std::max(from, 0);
+  to = std::min(to, grid.width);
+  if (weight == 0 || from >= to || y < 0 || y >= grid.height) return;
+  QRgb* const row = grid.Row(y);
+  if (weight == 256) {
+    std::fill(row + from, row + to, color | 0xFF000000);
+    return;
+  }
+  for (int x = from; x < to; ++x)
+    row[x] = Mixed(row[x], color, weight);
 }
 
 bool CutLine(QPointF& from, QPointF& to, double width, double height, double margin) {
@@ -82,19 +105,36 @@ void BlendLine(const PixelGrid& grid, QPointF from, QPointF to, QRgb color, floa
     std::swap(y1, y2);
   }
   const double slope = x2 > x1 ? (y2 - y1) / (x2 - x1) : 0;
-  const int firstStep = static_cast<int>(std::lround(x1));
-  const int lastStep = std::max(firstStep, static_cast<int>(std::lround(x2)));
-  // Thin lines keep one pixel across whatever their slope; wide ones their width.
-  const double across = width <= thinStroke ? 1 : width * std::sqrt(1 + slope * slope);
-  if (width < 1) opacity *= static_cast<float>(width);
-  double y = y1 + slope * (firstStep - x1) + 0.5 - across / 2;
-  for (int x = firstStep; x <= lastStep; ++x, y += slope) {
-    const int first = static_cast<int>(std::floor(y));
-    const int last = static_cast<int>(std::ceil(y + across)) - 1;
+  const int major = steep ? grid.height : grid.width;
+  const int minor = steep ? grid.width : grid.height;
+  const int firstStep = std::max(0, static_cast<int>(std::lround(x1)));
+  const int lastStep = std::min(std::max(firstStep, static_cast<int>(std::lround(x2))), major - 1);
+  const std::ptrdiff_t along = steep ? grid.stride : 1;
+  const std::ptrdiff_t across = steep ? 1 : grid.stride;
+  double y = y1 + slope * (firstStep - x1) + 0.5;
+  QRgb* at = grid.pixels + along * firstStep;
+  if (width <= thinStroke) {
+    // One pixel across whatever the slope, shared between two.
+    const float strength = opacity * static_cast<float>(std::min(width, 1.0)) * 256;
+    y -= 0.5;
+    for (int x = firstStep; x <= lastStep; ++x, y += slope, at += along) {
+      const int row = static_cast<int>(std::floor(y));
+      const int second = static_cast<int>(static_cast<float>(y - row) * strength);
+      const int first = static_cast<int>(strength) - second;
+      QRgb* const pixel = at + across * row;
+      if (row >= 0 && row < minor) *pixel = Mixed(*pixel, color, first);
+      if (row + 1 >= 0 && row + 1 < minor) pixel[across] = Mixed(pixel[across], color, second);
+    }
+    return;
+  }
+  const double thickness = width * std::sqrt(1 + slope * slope);
+  y -= thickness / 2;
+  for (int x = firstStep; x <= lastStep; ++x, y += slope, at += along) {
+    const int first = std::max(0, static_cast<int>(std::floor(y)));
+    const int last = std::min(minor, static_cast<int>(std::ceil(y + thickness))) - 1;
     for (int row = first; row <= last; ++row) {
-      const bool whole = row > first && row < last;
-      const float share = whole ? 1 : Share(static_cast<float>(y), static_cast<float>(across), row);
-      BlendPixel(grid, steep ? row : x, steep ? x : row, color, opacity * share);
+      const float share = Share(static_cast<float>(y), static_cast<float>(thickness), row);
+      at[across * row] = Mixed(at[across * row], color, WeightOf(opacity * share));
     }
   }
 }

@@ -24,6 +24,9 @@ struct PixelGrid {
 // Mixes color into a pixel with coverage 0 to 1.
 void BlendPixel(const PixelGrid& grid, int x, int y, QRgb color, float coverage);
 
+// The same for the pixels of row y from column from up to before column to.
+void BlendSpan(const PixelGrid& grid, int from, int to, int y, QRgb color, float coverage);
+
 // A line of some pixels' width, ends cut square to its longer axis. Each step
 // along that axis covers as much across it as the width asks for, the pixels at
 // both rims by their share (Wu's method, widened). Below one pixel it fades.

@@ -76,6 +76,13 @@ void QtDrawSurface::Polyline(std::span<const SurfacePoint> points, std::int32_t 
     BlendLine(grid, Pixel(points[i - 1]), Pixel(points[i]), pixel, Opacity, PenWidth());
 }
 
+void QtDrawSurface::Polygon(std::span<const SurfacePoint> points, std::int32_t color) {
+  pixels.clear();
+  for (const SurfacePoint point : points)
+    pixels.push_back(Pixel(point));
+  fill.Fill(grid, pixels, ToQRgb(color), Opacity);
+}
+
 void QtDrawSurface::Circles(std::span<const SurfacePoint> centres, float radius, std::int32_t color) {
   const double pixels = std::max(0.5, radius * placement.PixelsPerUnit());
   if (centres.empty()) return;

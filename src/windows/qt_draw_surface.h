@@ -1,11 +1,12 @@
-// DrawSurface on a QImage, for the moving map. Lines, discs, points and texts
-// are set straight into the picture, which costs a repaint a fraction of what
+// DrawSurface on a QImage, for the moving map. Lines, shapes, discs, points and
+// texts are set straight into the picture, which costs a repaint a fraction of what
 // the general painter takes; everything else is QPainter's.
 #pragma once
 
 #include <QImage>
 #include <QPainter>
 
+#include "windows/pixel_fill.h"
 #include "windows/pixel_strokes.h"
 #include "windows/qt_painter_surface.h"
 #include "windows/surface_cache.h"
@@ -28,6 +29,7 @@ class QtDrawSurface : private ImagePainter, public QtPainterSurface {
   void Circles(std::span<const SurfacePoint> centres, float radius, std::int32_t color) override;
   void Points(std::span<const SurfacePoint> points, std::int32_t color) override;
   void Polyline(std::span<const SurfacePoint> points, std::int32_t color) override;
+  void Polygon(std::span<const SurfacePoint> points, std::int32_t color) override;
   void Print(std::string_view text) override;
   float TextWidth(std::string_view text) override;
   float TextHeight(std::string_view text) override;
@@ -38,6 +40,8 @@ class QtDrawSurface : private ImagePainter, public QtPainterSurface {
 
   QImage& image;
   PixelGrid grid;
+  PixelFill fill;
+  std::vector<QPointF> pixels;  // of the shape being filled
   SurfaceCache ownCache;
   SurfaceCache& cache;
   GlyphSet* letters = nullptr;  // of lettersPixels, lettersBold
