@@ -169,6 +169,7 @@ int RunDraw(const CliOptions& options, const DrawRequest& request) {
   const QGuiApplication application(argc, argv);
   MapView view =
       MapView::At(static_cast<float>(request.centerLat), static_cast<float>(request.centerLon), row);
+  view.MapMagVar = world->database.magneticVariation.MagVarLookup(view.MapCenterLat, view.MapCenterLon);
   modDeclutter labels;
   MapSwitches switches;
   for (const MapLayer& layer : layers)

@@ -15,6 +15,8 @@ constexpr std::array<Flag, 14> menuFlags = {
 constexpr std::array<Flag, 3> buttonFlags = {&Flags::btnIcao, &Flags::btnName, &Flags::btnFreq};
 constexpr std::array<Flag, 3> airspaceFlags = {&Flags::mnuCtrz, &Flags::mnuAir1, &Flags::mnuAir2};
 
+constexpr std::int32_t storedBit = 1 << 30;
+
 template <std::size_t N>
 void Read(std::int32_t mask, const std::array<Flag, N>& flags, MapSwitches& switches) {
   for (std::size_t bit = 0; bit < N; ++bit)
@@ -33,6 +35,7 @@ std::int32_t MaskOf(const MapSwitches& switches, const std::array<Flag, N>& flag
 
 MapSwitches SwitchesFrom(const Settings& settings) {
   MapSwitches switches;
+  if ((settings.MENU & storedBit) == 0) return switches;
   Read(settings.MENU, menuFlags, switches);
   Read(settings.BUTTON, buttonFlags, switches);
   Read(settings.AIRSPACE, airspaceFlags, switches);
@@ -42,7 +45,7 @@ MapSwitches SwitchesFrom(const Settings& settings) {
 }
 
 void StoreSwitches(const MapSwitches& switches, Settings& settings) {
-  settings.MENU = MaskOf(switches, menuFlags);
+  settings.MENU = MaskOf(switches, menuFlags) | storedBit;
   settings.BUTTON = MaskOf(switches, buttonFlags);
   settings.AIRSPACE = MaskOf(switches, airspaceFlags);
   settings.COMPMENU = switches.mnuCompass ? -1 : 0;

@@ -17,6 +17,8 @@
 //    11  mnuSunrise
 //    12  mnuAutozoom
 //    13  mnuAoM
+//    30  always set: a MENU without it was never stored, and all switches have
+//        their defaults
 #pragma once
 
 #include "map/map_switches.h"

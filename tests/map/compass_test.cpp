@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "tests/map/painted_map.h"
+#include "tests/map/painted.h"
 
 namespace {
 

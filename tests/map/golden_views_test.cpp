@@ -7,7 +7,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "tests/map/painted_map.h"
+#include "tests/map/painted.h"
 
 namespace {
 

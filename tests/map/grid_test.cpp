@@ -4,7 +4,7 @@
 #include <set>
 
 #include "map/grid_layer.h"
-#include "tests/map/painted_map.h"
+#include "tests/map/painted.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "tests/map/painted_map.h"
+#include "tests/map/painted.h"
 
 namespace {
 

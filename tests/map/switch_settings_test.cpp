@@ -4,6 +4,14 @@
 
 namespace {
 
+constexpr std::int32_t storedBit = 1 << 30;
+
+TEST(SwitchSettings, ASettingsFileThatNeverHeldThemGivesTheDefaults) {
+  Settings settings;
+  settings.MENU = settings.BUTTON = 0;
+  EXPECT_EQ(SwitchesFrom(settings), MapSwitches{});
+}
+
 TEST(SwitchSettings, TheDefaultsOfBothAgree) {
   EXPECT_EQ(SwitchesFrom(Settings{}), MapSwitches{});
   Settings stored;
@@ -40,14 +48,15 @@ TEST(SwitchSettings, EverySwitchHasItsPlaceForGood) {
   // Every switch of the map is in the table.
   EXPECT_EQ(std::size(cases), sizeof(MapSwitches) / sizeof(bool));
   Settings nothing;
-  nothing.MENU = nothing.BUTTON = nothing.AIRSPACE = nothing.COMPMENU = nothing.LATLONGMENU = 0;
+  nothing.BUTTON = nothing.AIRSPACE = nothing.COMPMENU = nothing.LATLONGMENU = 0;
+  nothing.MENU = storedBit;
   const MapSwitches allOff = SwitchesFrom(nothing);
   for (const Case& c : cases) {
     MapSwitches one = allOff;
     one.*c.flag = true;
     Settings stored;
     StoreSwitches(one, stored);
-    EXPECT_EQ(stored.*c.key, c.value);
+    EXPECT_EQ(stored.*c.key, c.key == &Settings::MENU ? c.value | storedBit : c.value);
     EXPECT_EQ(SwitchesFrom(stored), one) << "value " << c.value;
   }
 }
@@ -58,7 +67,7 @@ TEST(SwitchSettings, UnknownBitsAreDropped) {
   MapSwitches switches = SwitchesFrom(settings);
   EXPECT_TRUE(switches.mnuCoastlines && switches.mnuAoM);
   StoreSwitches(switches, settings);
-  EXPECT_EQ(settings.MENU, (1 << 14) - 1);
+  EXPECT_EQ(settings.MENU, storedBit | ((1 << 14) - 1));
 }
 
 }  // namespace
