@@ -96,6 +96,8 @@ struct FlightPlan {
   PlanWaypoint& Row(int index) { return rows.at(static_cast<std::size_t>(index)); }
   const PlanWaypoint& Row(int index) const { return rows.at(static_cast<std::size_t>(index)); }
 
+  friend bool operator==(const FlightPlan&, const FlightPlan&) = default;
+
  private:
   int CountKind(RowKind kind) const {
     int count = 0;

@@ -14,6 +14,11 @@ void DeleteRowsBetweenProcedures(FlightPlan& plan, const PlanContext& context) {
   }
 }
 
+// The row whose leg is to be filled: the selected one, else the SID's last.
+int InsertionRow(const FlightPlan& plan) {
+  return plan.SelectedRow <= 0 ? plan.SidRows() : std::min<int>(plan.SelectedRow, plan.DestinationRow() - 1);
+}
+
 }  // namespace
 
 bool GenerateAirwayRoute(FlightPlan& plan, const PlanContext& context, AirwaySearch& search,
@@ -22,13 +27,29 @@ bool GenerateAirwayRoute(FlightPlan& plan, const PlanContext& context, AirwaySea
   const char level = network == AirwayNetwork::lowAltitude ? 'V' : 'J';
   const bool wholeRoute = plan.SelectedRow <= 0;
   if (wholeRoute) DeleteRowsBetweenProcedures(plan, context);
-  int insertionRow = wholeRoute ? plan.SidRows() : std::min<int>(plan.SelectedRow, plan.DestinationRow() - 1);
+  int insertionRow = InsertionRow(plan);
   const bool done = CreateAirwayRoute(plan, context, search, level, insertionRow);
   if (!done && wholeRoute) RecomputePlan(plan, context);
   if (done && wholeRoute) {
     plan.RouteType = network == AirwayNetwork::lowAltitude ? RouteKind::lowAltitude : RouteKind::highAltitude;
   }
   // The next whole-route command must find no row selected by this one.
+  if (wholeRoute) plan.SelectedRow = 0;
+  return done;
+}
+
+bool GenerateNavaidRoute(FlightPlan& plan, const PlanContext& context, const NavaidKinds& kinds,
+                         const NavaidSector& sector) {
+  if (!plan.PlanFiled || plan.RowCount() < 2) return false;
+  const bool wholeRoute = plan.SelectedRow <= 0;
+  const bool any = kinds.vor || kinds.ndb || kinds.intersection;
+  if (wholeRoute && any) DeleteRowsBetweenProcedures(plan, context);
+  int insertionRow = InsertionRow(plan);
+  const bool done = CreateNavaidRoute(plan, context, kinds, sector, insertionRow);
+  if (!done && any) {
+    RebuildTable(plan, context);
+    RecomputePlan(plan, context);
+  }
   if (wholeRoute) plan.SelectedRow = 0;
   return done;
 }

@@ -4,6 +4,7 @@
 
 #include "flightplan/airway_search.h"
 #include "flightplan/flight_plan.h"
+#include "flightplan/navaid_route.h"
 #include "flightplan/plan_context.h"
 
 enum class AirwayNetwork { lowAltitude, highAltitude };
@@ -15,3 +16,8 @@ enum class AirwayNetwork { lowAltitude, highAltitude };
 // happens while the plan has no airports.
 bool GenerateAirwayRoute(FlightPlan& plan, const PlanContext& context, AirwaySearch& search,
                          AirwayNetwork network);
+
+// Likewise over navaids. RouteType becomes navaid in both cases. The rows found
+// so far stay when the pilot is told that there are too few navaids.
+bool GenerateNavaidRoute(FlightPlan& plan, const PlanContext& context, const NavaidKinds& kinds,
+                         const NavaidSector& sector);

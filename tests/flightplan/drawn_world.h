@@ -1,7 +1,7 @@
 // A navigation database drawn as text, one thing a line:
 //
 //   airport EDDA 50.0 8.0 364           code, position, elevation
-//   vor FFM 50.0 8.5
+//   vor FFM 50.0 8.5                    likewise ndb, fix
 //   A 50.0 8.0                          an intersection, rows from 1 on
 //   A --12-- B V1 FL100-FL200           a low link of 12 NM, both ways
 //   A ==12=> B UL1 FL250-FL460          a high link, one way
@@ -28,6 +28,7 @@ class DrawnWorld {
     for (std::string line; std::getline(lines, line);)
       AddLine(line);
     PlaceLinks();
+    database.airports.emplace_back().strCode = std::string_view("AFIL");
     database.lngAirports = static_cast<std::int32_t>(database.airports.size()) - 1;
     database.lngIntersections = static_cast<std::int32_t>(database.intersections.size()) - 1;
     BuildIndexes(database);
@@ -66,10 +67,11 @@ class DrawnWorld {
       words >> airport.sngLat >> airport.sngLon >> airport.lngElevation;
       database.airports.push_back(airport);
     } else if (first == "vor") {
-      VorRec vor;
-      vor.strCode = second;
-      words >> vor.sngLat >> vor.sngLon;
-      database.vors.push_back(vor);
+      AddObject(database.vors, second, words);
+    } else if (first == "ndb") {
+      AddObject(database.ndbs, second, words);
+    } else if (first == "fix") {
+      AddObject(database.fixes, second, words);
     } else if (second.starts_with("--") || second.starts_with("==")) {
       AddLink(first, second, words);
     } else {
@@ -77,6 +79,14 @@ class DrawnWorld {
       node.sngLat = std::stof(second);
       words >> node.sngLon;
     }
+  }
+
+  template <class Row>
+  static void AddObject(std::vector<Row>& table, const std::string& code, std::istringstream& words) {
+    Row& row = table.emplace_back();
+    row.strCode = code;
+    row.strName = code;
+    words >> row.sngLat >> row.sngLon;
   }
 
   void AddLink(const std::string& from, const std::string& arrow, std::istringstream& words) {
@@ -152,7 +162,7 @@ inline AircraftRec SlowTwin() {
 // A filed plan from the world's first airport to its last.
 struct DrawnPlan {
   explicit DrawnPlan(const std::string& drawing) : world(drawing) {
-    SetDepartureAndDestination(plan, context, 0, static_cast<int>(world.database.airports.size()) - 1);
+    SetDepartureAndDestination(plan, context, 0, world.database.AirportCount() - 1);
   }
 
   // Adds an enroute row before the destination.

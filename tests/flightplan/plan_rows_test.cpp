@@ -29,7 +29,7 @@ TEST(SetDepartureAndDestination, ReplacesThePlan) {
   EXPECT_EQ(drawn.plan.DestinationLon, 8);
   EXPECT_EQ(drawn.plan.Row(0).Kind, RowKind::departure);
   EXPECT_EQ(drawn.plan.Row(1).Kind, RowKind::destination);
-  for (const int bad : {-1, 2}) {
+  for (const int bad : {-1, 3}) {
     EXPECT_THROW(SetDepartureAndDestination(drawn.plan, drawn.context, 0, bad), std::out_of_range);
     EXPECT_EQ(drawn.Codes(), "EDDB EDDA");
   }

@@ -1,0 +1,238 @@
+#include "flightplan/route_parser.h"
+
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "base/code_page.h"
+#include "flightplan/airway_graph.h"
+#include "flightplan/airway_search.h"
+#include "flightplan/plan_legs.h"
+#include "flightplan/plan_rows.h"
+#include "flightplan/route_string.h"
+#include "navdata/geodesy.h"
+
+namespace {
+
+constexpr std::string_view noDepartureText = "Invalid String! Departure airport missing!";
+constexpr std::string_view noDestinationText = "Invalid String! Destination airport missing!";
+constexpr float farthestCandidate = 2147483648.0F;
+constexpr float samePlaceDistance = 1;  // NM
+
+enum AirwayNetworkNumber : std::uint8_t { noNetwork = 0, victorNetwork = 1, jetNetwork = 2 };
+
+char LevelOf(int network) {
+  return network == victorNetwork ? 'V' : 'J';
+}
+
+std::vector<std::string> Words(std::string_view text) {
+  std::vector<std::string> words;
+  const std::string plain = PlainRouteText(text);
+  for (std::size_t from = 0; from < plain.size();) {
+    const std::size_t to = std::min(plain.find(' ', from), plain.size());
+    if (to > from) words.push_back(plain.substr(from, to - from));
+    from = to + 1;
+  }
+  return words;
+}
+
+// The last real airport with this code, -1 if none.
+std::int32_t LastAirport(const NavDatabase& database, std::string_view code) {
+  std::int32_t found = -1;
+  for (const std::int32_t row : database.airportsByIdent.All(code))
+    if (row < database.AirportCount()) found = row;
+  return found;
+}
+
+template <class Row>
+PlanWaypoint RowFor(const Row& object, std::string_view sym, std::int32_t index) {
+  PlanWaypoint row;
+  row.Sym = sym;
+  row.Code = object.strCode.View();
+  row.Name = object.strName.View();
+  if constexpr (requires { object.sngFrequency; }) row.Freq = object.sngFrequency;
+  if constexpr (requires { object.sngUnused; }) row.Freq = object.sngUnused;
+  row.Lat = object.sngLat;
+  row.Lon = object.sngLon;
+  row.MagVar = object.sngMagVar;
+  row.DbIndex = index;
+  return row;
+}
+
+// The object of this ident nearest to a place; on equal distance the
+// intersection, then VOR, NDB, fix, and the first row of each.
+std::optional<PlanWaypoint> NearestObject(const NavDatabase& database, std::string_view ident,
+                                          Position from) {
+  std::optional<PlanWaypoint> nearest;
+  float best = farthestCandidate;
+  const auto consider = [&](const IdentIndex& index, const auto& table, std::string_view sym) {
+    for (const std::int32_t row : index.All(ident)) {
+      const auto& object = table[static_cast<std::size_t>(row)];
+      const float distance = GreatCircleDistance(from.lat, from.lon, object.sngLat, object.sngLon);
+      if (!(distance < best)) continue;
+      best = distance;
+      nearest = RowFor(object, sym, row);
+    }
+  };
+  consider(database.intersectionsByIdent, database.intersections, "Int");
+  consider(database.vorsByIdent, database.vors, "VOR");
+  consider(database.ndbsByIdent, database.ndbs, "NDB");
+  consider(database.fixesByIdent, database.fixes, "Fix");
+  if (nearest && nearest->Sym == "Int") {
+    const char level = AirwayLevel(database.intersections[static_cast<std::size_t>(nearest->DbIndex)]);
+    nearest->Level = std::string_view(&level, 1);
+  }
+  return nearest;
+}
+
+// The network on which an airway of this name leaves the node.
+AirwayNetworkNumber NetworkOf(const NavDatabase& database, std::int32_t node, std::string_view airway) {
+  for (const AirwayNetworkNumber network : {victorNetwork, jetNetwork}) {
+    for (const ConnectionRec& link : NetworkLinks(database, node, LevelOf(network)))
+      if (link.strAirway == airway) return network;
+  }
+  return noNetwork;
+}
+
+// The row of the intersection table that a row of the plan stands for: its own,
+// or that of its code within a mile; -1 if none.
+std::int32_t NodeOf(const PlanWaypoint& row, const NavDatabase& database) {
+  if (row.Sym == "Int") return row.DbIndex;
+  for (const std::int32_t node : database.intersectionsByIdent.All(row.Code.View())) {
+    const IntersectionRec& at = database.intersections[static_cast<std::size_t>(node)];
+    if (GreatCircleDistance(row.Lat, row.Lon, at.sngLat, at.sngLon) < samePlaceDistance) return node;
+  }
+  return -1;
+}
+
+// The links from node to node along an airway that begins with first, up to
+// toNode; nothing if it ends before.
+std::optional<std::vector<const ConnectionRec*>> FollowAirway(const NavDatabase& database,
+                                                              std::int32_t fromNode,
+                                                              const ConnectionRec& first, std::int32_t toNode,
+                                                              char level) {
+  std::vector<const ConnectionRec*> way = {&first};
+  std::int32_t before = fromNode;
+  while (way.back()->lngNext != toNode) {
+    const std::int32_t node = way.back()->lngNext;
+    const ConnectionRec* next = nullptr;
+    for (const ConnectionRec& link : NetworkLinks(database, node, level)) {
+      if (link.strAirway != first.strAirway || link.lngNext == before) continue;
+      next = &link;
+      break;
+    }
+    // A ring would lead round for ever.
+    if (next == nullptr || !IsNode(database, next->lngNext) || way.size() > database.intersections.size())
+      return std::nullopt;
+    before = node;
+    way.push_back(next);
+  }
+  return way;
+}
+
+void TakeLink(PlanWaypoint& row, const ConnectionRec& link) {
+  row.Airway = link.strAirway.View();
+  row.AirwayMinAlt = ParseAltitude(link.strMinAlt.View());
+  row.AirwayMaxAlt = ParseAltitude(link.strMaxAlt.View());
+}
+
+// Rows for the words between the airports. Those at which an airway begins have
+// its network and name for the moment.
+void InsertFixes(FlightPlan& plan, const PlanContext& context, const std::vector<std::string>& words) {
+  Position current{plan.Row(0).Lat, plan.Row(0).Lon};
+  int insertionRow = 0;
+  for (std::size_t i = 1; i + 1 < words.size(); ++i) {
+    std::optional<PlanWaypoint> row = NearestObject(context.database, words[i], current);
+    if (!row) continue;
+    current = {row->Lat, row->Lon};
+    const bool mayJoin = row->Sym == "Int" && i + 2 < words.size();
+    if (mayJoin) row->AirwayLink = NetworkOf(context.database, row->DbIndex, words[i + 1]);
+    if (row->AirwayLink != noNetwork) row->Airway = words[++i];
+    InsertWaypoint(plan, context, insertionRow, *row, false);
+  }
+}
+
+// Joins the rows that InsertFixes() marked with the rows behind them.
+bool JoinRows(FlightPlan& plan, const PlanContext& context) {
+  std::string carried;  // name of the airway that begins where the one before ends
+  for (int i = 1; i < plan.DestinationRow(); ++i) {
+    PlanWaypoint& row = plan.Row(i);
+    const int network = row.AirwayLink;
+    if (network == noNetwork) continue;
+    const std::string airway = carried.empty() ? row.Airway.Text() : carried;
+    if (carried.empty()) row.ClearAirway();
+    row.AirwayLink = noNetwork;
+    const PlanWaypoint next = plan.Row(i + 1);
+    carried = next.AirwayLink != noNetwork ? next.Airway.Text() : std::string();
+    const std::int32_t toNode = i + 1 < plan.DestinationRow() ? NodeOf(next, context.database) : -1;
+    if (toNode >= 0 && ExpandAirway(plan, context, row.DbIndex, toNode, airway, network, i)) continue;
+    context.messages.Show(CodePageToUtf8(next.Code.Text() + " is not on airway " + airway) +
+                              "\nFlightplan cannot be completed!",
+                          MessageIcon::exclamation);
+    return false;
+  }
+  return true;
+}
+
+// Where the second pass ended early, the names of airways that were not joined go.
+void DropMarks(FlightPlan& plan) {
+  for (PlanWaypoint& row : plan.rows) {
+    if (row.AirwayLink != noNetwork) row.ClearAirway();
+    row.AirwayLink = noNetwork;
+  }
+}
+
+}  // namespace
+
+bool ExpandAirway(FlightPlan& plan, const PlanContext& context, std::int32_t fromNode, std::int32_t toNode,
+                  std::string_view airway, int network, int row) {
+  const NavDatabase& database = context.database;
+  constexpr int directions = 2;
+  int tried = 0;
+  for (const ConnectionRec& link : NetworkLinks(database, fromNode, LevelOf(network))) {
+    if (link.strAirway != airway || !IsNode(database, link.lngNext)) continue;
+    if (++tried > directions) break;
+    const auto way = FollowAirway(database, fromNode, link, toNode, LevelOf(network));
+    if (!way) continue;
+    for (const ConnectionRec* step : *way) {
+      if (step == way->back()) break;
+      const IntersectionRec& node = database.intersections[static_cast<std::size_t>(step->lngNext)];
+      const char level = AirwayLevel(node);
+      PlanWaypoint between = RowFor(node, "Int", step->lngNext);
+      between.Name = node.strCode.View();
+      between.Level = std::string_view(&level, 1);
+      TakeLink(between, *step);
+      InsertWaypoint(plan, context, row, between, false);
+    }
+    TakeLink(plan.Row(row + 1), *way->back());
+    return true;
+  }
+  return false;
+}
+
+bool ParseRoute(FlightPlan& plan, const PlanContext& context, std::string_view text) {
+  const std::vector<std::string> words = Words(text);
+  if (words.empty()) return false;
+  ClearFlightPlan(plan);
+  const std::int32_t departure = LastAirport(context.database, words.front());
+  if (departure < 0) {
+    context.messages.Show(noDepartureText, MessageIcon::exclamation);
+    return false;
+  }
+  plan.DepartureIndex = departure;
+  const std::int32_t destination = LastAirport(context.database, words.back());
+  if (destination < 0) {
+    context.messages.Show(noDestinationText, MessageIcon::exclamation);
+    return false;
+  }
+  SetDepartureAndDestination(plan, context, departure, destination);
+  InsertFixes(plan, context, words);
+  plan.RouteType = RouteKind::navaid;
+  RebuildTable(plan, context);
+  const bool complete = JoinRows(plan, context);
+  DropMarks(plan);
+  RebuildTable(plan, context);
+  RecomputePlan(plan, context);
+  plan.PlanFiled = true;
+  return complete;
+}
