@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/fixed_text.h"
+#include "flightplan/procedure_step.h"
 
 enum class RowKind : std::uint8_t { departure = 0, enroute = 1, star = 2, sid = 3, destination = 4 };
 
@@ -81,6 +82,8 @@ struct FlightPlan {
   bool CanSave = false;
   std::string SidName;  // procedures in use, empty: none
   std::string StarName;
+  std::vector<ProcedureStep> SidSteps;  // their geometry
+  std::vector<ProcedureStep> StarSteps;
 
   std::vector<PlanWaypoint> rows;
   std::optional<PlanWaypoint> AlternateRow;  // not in the table

@@ -132,6 +132,8 @@ bool DeleteEnrouteWaypoints(FlightPlan& plan, const PlanContext& context) {
     DeleteWaypoint(plan, context, plan.DestinationRow() - 1, false);
   plan.SidName.clear();
   plan.StarName.clear();
+  plan.SidSteps.clear();
+  plan.StarSteps.clear();
   plan.TotalDistance = 0;
   plan.TotalMinutes = 0;
   plan.CruiseFL = 0;

@@ -467,3 +467,42 @@ static_assert(RecordSize<AirwaySegmentFileRecord>() == 30);
 static_assert(RecordSize<AirspaceFileRecord>() == 132);
 static_assert(RecordSize<PointFileRecord>() == 8);
 static_assert(RecordSize<WorldShapeFileRecord>() == 25);
+
+// sid.vlm and star.vlm: procedures, each a header and its steps.
+struct ProcedureFileHeader {
+  FixedText<10> strAirport;
+  FixedText<5> strRunway;  // "00" in front: any runway
+  FixedText<40> strName;
+  std::uint8_t bytSteps = 0;
+  static constexpr void Fields(auto& r, auto& visit) {
+    visit(r.strAirport);
+    visit(r.strRunway);
+    visit(r.strName);
+    visit(r.bytSteps);
+  }
+};
+
+struct ProcedureStepFileRecord {
+  FixedText<5> strType;  // path terminator, such as "TF"
+  FixedText<10> strCode;
+  FixedText<20> strText;  // turn and altitude constraint, for the reading text
+  std::int16_t intValue = 0;
+  float sngLat = 0;
+  float sngLon = 0;
+  float sngTrack = 0;     // magnetic, degrees
+  float sngDistance = 0;  // NM
+  float sngAltitude = 0;  // feet
+  float sngDme = 0;       // NM from the recommended navaid
+  static constexpr void Fields(auto& r, auto& visit) {
+    visit(r.strType);
+    visit(r.strCode);
+    visit(r.strText);
+    visit(r.intValue);
+    visit(r.sngLat);
+    visit(r.sngLon);
+    visit(r.sngTrack);
+    visit(r.sngDistance);
+    visit(r.sngAltitude);
+    visit(r.sngDme);
+  }
+};

@@ -1,0 +1,128 @@
+#include "flightplan/procedures.h"
+
+#include <cmath>
+
+#include "base/code_page.h"
+#include "flightplan/plan_legs.h"
+#include "flightplan/plan_rows.h"
+
+namespace {
+
+template <class Row>
+std::int32_t RowAtStep(const ProcedureStep& step, const IdentIndex& byIdent, const std::vector<Row>& table) {
+  for (const std::int32_t row : byIdent.All(step.Code.View())) {
+    const Row& object = table[static_cast<std::size_t>(row)];
+    if (std::abs(static_cast<double>(object.sngLat) - step.Lat) <= stepLinkTolerance &&
+        std::abs(static_cast<double>(object.sngLon) - step.Lon) <= stepLinkTolerance)
+      return row;
+  }
+  return -1;
+}
+
+template <class Row>
+PlanWaypoint RowFrom(const Row& object, std::string_view sym, std::int32_t index, RowKind kind) {
+  PlanWaypoint row;
+  row.Sym = sym;
+  row.Code = object.strCode.View();
+  row.Name = object.strName.View();
+  if constexpr (requires { object.sngFrequency; }) row.Freq = object.sngFrequency;
+  row.Lat = object.sngLat;
+  row.Lon = object.sngLon;
+  row.MagVar = object.sngMagVar;
+  row.DbIndex = index;
+  row.Kind = kind;
+  return row;
+}
+
+PlanWaypoint RowFor(const StepLink& link, const NavDatabase& database, RowKind kind) {
+  const auto at = static_cast<std::size_t>(link.row);
+  switch (link.letter) {
+    case 'I': {
+      PlanWaypoint row = RowFrom(database.intersections[at], "Int", link.row, kind);
+      const char level = AirwayLevel(database.intersections[at]);
+      row.Level = std::string_view(&level, 1);
+      return row;
+    }
+    case 'F':
+      return RowFrom(database.fixes[at], "Fix", link.row, kind);
+    case 'N':
+      return RowFrom(database.ndbs[at], "NDB", link.row, kind);
+    default:
+      return RowFrom(database.vors[at], "VOR", link.row, kind);
+  }
+}
+
+void DeleteRows(FlightPlan& plan, const PlanContext& context, RowKind kind) {
+  for (int row = plan.DestinationRow() - 1; row > 0; --row)
+    if (plan.Row(row).Kind == kind) DeleteWaypoint(plan, context, row, false);
+}
+
+void Refresh(FlightPlan& plan, const PlanContext& context) {
+  RebuildTable(plan, context);
+  RecomputePlan(plan, context);
+}
+
+void InsertSteps(FlightPlan& plan, const PlanContext& context, const SidStarEntry& entry, RowKind kind,
+                 int afterRow, std::vector<ProcedureStep>& kept) {
+  kept = entry.Steps;
+  for (ProcedureStep& step : kept) {
+    step.Link = FindStepLink(step, context.database);
+    if (step.Link.letter == 'M') continue;
+    InsertWaypoint(plan, context, afterRow, RowFor(step.Link, context.database, kind), false);
+  }
+}
+
+}  // namespace
+
+StepLink FindStepLink(const ProcedureStep& step, const NavDatabase& database) {
+  if (const auto row = RowAtStep(step, database.intersectionsByIdent, database.intersections); row >= 0)
+    return {'I', row};
+  if (const auto row = RowAtStep(step, database.fixesByIdent, database.fixes); row >= 0) return {'F', row};
+  if (const auto row = RowAtStep(step, database.ndbsByIdent, database.ndbs); row >= 0) return {'N', row};
+  if (const auto row = RowAtStep(step, database.vorsByIdent, database.vors); row >= 0) return {'V', row};
+  return {};
+}
+
+void ApplySid(FlightPlan& plan, const PlanContext& context, const SidStarEntry& entry) {
+  if (plan.RowCount() < 2) return;
+  DeleteRows(plan, context, RowKind::sid);
+  plan.SidName = CodePageToUtf8(entry.Name.View());
+  InsertSteps(plan, context, entry, RowKind::sid, 0, plan.SidSteps);
+  Refresh(plan, context);
+}
+
+void ApplyStar(FlightPlan& plan, const PlanContext& context, const SidStarEntry& entry) {
+  if (plan.RowCount() < 2) return;
+  DeleteRows(plan, context, RowKind::star);
+  plan.StarName = CodePageToUtf8(entry.Name.View());
+  InsertSteps(plan, context, entry, RowKind::star, plan.DestinationRow() - 1, plan.StarSteps);
+  Refresh(plan, context);
+}
+
+void DeleteSid(FlightPlan& plan, const PlanContext& context) {
+  DeleteRows(plan, context, RowKind::sid);
+  plan.SidName.clear();
+  plan.SidSteps.clear();
+  Refresh(plan, context);
+}
+
+void DeleteStar(FlightPlan& plan, const PlanContext& context) {
+  DeleteRows(plan, context, RowKind::star);
+  plan.StarName.clear();
+  plan.StarSteps.clear();
+  Refresh(plan, context);
+}
+
+bool AskDeleteSid(FlightPlan& plan, const PlanContext& context) {
+  if (!context.messages.AskYesNo("Are you sure you want to delete the SID?", MessageIcon::question))
+    return false;
+  DeleteSid(plan, context);
+  return true;
+}
+
+bool AskDeleteStar(FlightPlan& plan, const PlanContext& context) {
+  if (!context.messages.AskYesNo("Are you sure you want to delete the STAR?", MessageIcon::question))
+    return false;
+  DeleteStar(plan, context);
+  return true;
+}
