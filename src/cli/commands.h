@@ -6,18 +6,24 @@
 #include <vector>
 
 #include "cli/cli_output.h"
+#include "flightplan/navaid_route.h"
 
 int RunInfo(const CliOptions& options);
 int RunFind(const CliOptions& options, const std::string& ident);
 int RunCourse(const CliOptions& options, const std::vector<double>& positions);
 int RunAircraft(const CliOptions& options);
 
-enum class PlanMode { direct, lowAltitude, highAltitude };
+enum class PlanMode { direct, navaid, lowAltitude, highAltitude, route };
 
 struct PlanRequest {
   std::string departure;
   std::string destination;
   PlanMode mode = PlanMode::direct;
+  NavaidKinds kinds;  // of the navaid mode
+  std::string route;  // of the route mode: the whole string, or what stands between the airports
+  std::string sid;    // names of procedures; empty: none
+  std::string star;
+  std::string alternate;        // airport code; empty: none
   std::optional<int> aircraft;  // number; nothing: the settings' aircraft
   std::string saveAs;           // a .pln file; empty: not saved
 };

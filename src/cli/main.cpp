@@ -19,6 +19,7 @@ struct CommandLine {
   std::vector<double> positions;
   PlanRequest plan;
   bool direct = false;
+  bool navaid = false;
   bool low = false;
   bool high = false;
   int aircraft = 0;
@@ -35,15 +36,47 @@ CliOptions OptionsOf(const CommandLine& line) {
   return options;
 }
 
+void TakeKinds(const std::vector<std::string>& names, NavaidKinds& kinds) {
+  kinds = {false, false, false};
+  for (const std::string& name : names) {
+    if (name == "vor") {
+      kinds.vor = true;
+    } else if (name == "ndb") {
+      kinds.ndb = true;
+    } else if (name == "int") {
+      kinds.intersection = true;
+    } else {
+      throw CLI::ValidationError("--kinds", "knows vor, ndb and int, not " + name);
+    }
+  }
+}
+
+PlanMode ModeOf(const CommandLine& line, const CLI::App& plan) {
+  if (line.navaid) return PlanMode::navaid;
+  if (line.low) return PlanMode::lowAltitude;
+  if (line.high) return PlanMode::highAltitude;
+  return plan.count("--route") > 0 ? PlanMode::route : PlanMode::direct;
+}
+
 CLI::App* AddPlanCommand(CLI::App& app, CommandLine& line) {
   CLI::App* plan = app.add_subcommand("plan", "Build a plan between two airports");
   plan->add_option("DEP", line.plan.departure, "Departure airport")->required();
   plan->add_option("DEST", line.plan.destination, "Destination airport")->required();
   CLI::Option_group* mode = plan->add_option_group("MODE", "How the route is made");
   mode->add_flag("--direct", line.direct, "Straight to the destination");
+  mode->add_flag("--navaid", line.navaid, "From navaid to navaid");
   mode->add_flag("--low", line.low, "Low altitude (victor) airways");
   mode->add_flag("--high", line.high, "High altitude (jet) airways");
+  mode->add_option("--route", line.plan.route, "A route string")->type_name("TEXT");
   mode->require_option(1);
+  plan->add_option_function<std::vector<std::string>>(
+          "--kinds", [&line](const std::vector<std::string>& kinds) { TakeKinds(kinds, line.plan.kinds); },
+          "What --navaid may use: vor, ndb, int; all if not given")
+      ->delimiter(',')
+      ->type_name("A,B,C");
+  plan->add_option("--sid", line.plan.sid, "Name of a departure")->type_name("NAME");
+  plan->add_option("--star", line.plan.star, "Name of an arrival")->type_name("NAME");
+  plan->add_option("--alternate", line.plan.alternate, "Alternate airport")->type_name("ICAO");
   plan->add_option("--aircraft", line.aircraft, "Number of the aircraft");
   plan->add_option("--save", line.plan.saveAs, "Save the plan as FILE.pln");
   return plan;
@@ -59,7 +92,7 @@ int RunCommand(const CommandLine& line, const CLI::App& app, const CLI::App& pla
   if (app.got_subcommand("draw")) return RunDraw(options, line.draw);
 #endif
   PlanRequest request = line.plan;
-  request.mode = line.low ? PlanMode::lowAltitude : line.high ? PlanMode::highAltitude : PlanMode::direct;
+  request.mode = ModeOf(line, plan);
   if (plan.count("--aircraft") > 0) request.aircraft = line.aircraft;
   return RunPlan(options, request);
 }

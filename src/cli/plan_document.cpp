@@ -1,6 +1,9 @@
 #include "cli/plan_document.h"
 
+#include <stdexcept>
+
 #include "flightplan/cruise_level.h"
+#include "flightplan/fuel_plan.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/route_string.h"
 #include "navdata/geodesy.h"
@@ -44,9 +47,29 @@ Json Legs(const FlightPlan& plan) {
   return legs;
 }
 
+Json Fuel(const FlightPlan& plan, const PlanContext& context, int unit) {
+  FuelFigures figures;
+  try {
+    figures = CalculateFuel(plan, context);
+  } catch (const std::domain_error&) {
+    return nullptr;
+  }
+  const auto amount = [unit](double gallons) { return JsonNumber(static_cast<float>(Conv(gallons, unit))); };
+  return {{"unit", std::string(Trimmed(FuelUnitText(unit)))},
+          {"trip", amount(figures.TripFuel)},
+          {"climb", amount(figures.ClimbFuel)},
+          {"cruise", amount(figures.CruiseFuel)},
+          {"descent", amount(figures.DescentFuel)},
+          {"approach", amount(figures.ApproachFuel)},
+          {"contingency", amount(figures.ContingencyFuel)},
+          {"holding", amount(figures.HoldingFuel)},
+          {"alternate", amount(figures.AlternateFuel)},
+          {"total", amount(figures.TotalFuel)}};
+}
+
 }  // namespace
 
-Json PlanDocument(const FlightPlan& plan, const PlanContext& context, const Json& messages) {
+Json PlanDocument(const FlightPlan& plan, const PlanContext& context, int fuelUnit, const Json& messages) {
   const VerticalProfile profile = ComputeVerticalProfile(plan, context);
   return {{"departure", AirportCode(context.database, plan.DepartureIndex)},
           {"destination", AirportCode(context.database, plan.DestinationIndex)},
@@ -64,6 +87,7 @@ Json PlanDocument(const FlightPlan& plan, const PlanContext& context, const Json
           {"aircraft", {{"number", context.aircraft.Number}, {"name", context.aircraft.Name}}},
           {"toc", JsonNumber(static_cast<float>(profile.TopOfClimb))},
           {"tod", JsonNumber(static_cast<float>(profile.TopOfDescent))},
+          {"fuel", Fuel(plan, context, fuelUnit)},
           {"legs", Legs(plan)},
           {"messages", messages}};
 }

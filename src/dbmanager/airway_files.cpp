@@ -53,10 +53,10 @@ class AirwayFilesMaker {
       : navaids(navaids), variationAt(variationAt), lastRow(lastRow) {}
 
   AirwayFiles Make(std::span<const SourceAirway> source) {
+    IndexNavaids();
     for (const SourceAirway& segment : source)
       AddSegment(segment);
     NumberPoints();
-    IndexNavaidNames();
     for (const Segment& segment : segments)
       WriteSegment(segment);
     for (const std::size_t point : order)
@@ -65,6 +65,14 @@ class AirwayFilesMaker {
   }
 
  private:
+  // A point that is a navaid lies where the navaid lies, to the last digit: a
+  // route through both must not hop between them.
+  AirwayEnd AtItsNavaid(AirwayEnd end) const {
+    if (const auto navaid = navaidPlaces.Find(end.ident, end.position))
+      end.position = navaidsByNumber[*navaid]->position;
+    return end;
+  }
+
   std::size_t PointOf(const AirwayEnd& end) {
     const auto [known, fresh] =
         pointPlaces.try_emplace({end.ident, end.position.lat, end.position.lon}, points.size());
@@ -73,10 +81,11 @@ class AirwayFilesMaker {
   }
 
   void AddSegment(const SourceAirway& source) {
-    const std::size_t from = PointOf(source.from);
-    const std::size_t to = PointOf(source.to);
+    const AirwayEnd begin = AtItsNavaid(source.from), end = AtItsNavaid(source.to);
+    const std::size_t from = PointOf(begin);
+    const std::size_t to = PointOf(end);
     Link link{to, {}, 0, LevelText(source.base), LevelText(source.top)};
-    const Position a = Rounded(source.from.position), b = Rounded(source.to.position);
+    const Position a = Rounded(begin.position), b = Rounded(end.position);
     link.distance = GreatCircleDistance(a.lat, a.lon, b.lat, b.lon);
     for (const std::string& name : source.names) {
       link.airway = name;
@@ -116,11 +125,11 @@ class AirwayFilesMaker {
     }
   }
 
-  void IndexNavaidNames() {
+  void IndexNavaids() {
     for (const auto* list : {&navaids.vors, &navaids.dmes, &navaids.ndbs}) {
       for (const SourceNavaid& navaid : *list) {
-        navaidPlaces.Add(navaid.ident, navaid.position, navaidNames.size());
-        navaidNames.push_back(&navaid.name);
+        navaidPlaces.Add(navaid.ident, navaid.position, navaidsByNumber.size());
+        navaidsByNumber.push_back(&navaid);
       }
     }
   }
@@ -163,7 +172,8 @@ class AirwayFilesMaker {
     record.lngIndex = point.row;
     record.strRegion = point.end.region;
     record.strCode = point.end.ident;
-    record.strName = navaid && !navaidNames[*navaid]->empty() ? *navaidNames[*navaid] : point.end.ident;
+    record.strName =
+        navaid && !navaidsByNumber[*navaid]->name.empty() ? navaidsByNumber[*navaid]->name : point.end.ident;
     record.sngLat = position.lat;
     record.sngLon = position.lon;
     record.sngMagVar = Single(variationAt(point.end.position));
@@ -201,7 +211,7 @@ class AirwayFilesMaker {
   // Ends of segments are one point only where the source gives them one position.
   std::map<std::tuple<std::string, double, double>, std::size_t> pointPlaces;
   IdentPlaces navaidPlaces;
-  std::vector<const std::string*> navaidNames;
+  std::vector<const SourceNavaid*> navaidsByNumber;
   std::set<std::tuple<std::size_t, std::size_t, bool, std::string>> linksSeen;
   std::set<std::tuple<std::size_t, std::size_t, bool, std::string>> segmentsSeen;
 };

@@ -70,6 +70,17 @@ void SetDepartureAndDestination(FlightPlan& plan, const PlanContext& context, in
   RecomputePlan(plan, context);
 }
 
+void SetAlternate(FlightPlan& plan, const PlanContext& context, int airportRow) {
+  if (airportRow < 0) {
+    plan.AlternateIndex = -1;
+    plan.AlternateRow.reset();
+    return;
+  }
+  const AirportRec& airport = context.database.airports.at(static_cast<std::size_t>(airportRow));
+  plan.AlternateIndex = airportRow;
+  plan.AlternateRow = AirportRow(airport, airportRow, RowKind::destination);
+}
+
 void InsertWaypoint(FlightPlan& plan, const PlanContext& context, int& afterRow, const PlanWaypoint& row,
                     bool refresh) {
   const int newRow = std::max(afterRow, 0) + 1;

@@ -15,6 +15,10 @@ constexpr double doubledNeighbourDistance = 1.0;
 void SetDepartureAndDestination(FlightPlan& plan, const PlanContext& context, int departureRow,
                                 int destinationRow);
 
+// Makes a row of the airport table the plan's alternate; -1 takes it away.
+// Throws std::out_of_range if there is no such row.
+void SetAlternate(FlightPlan& plan, const PlanContext& context, int airportRow);
+
 // Puts row behind afterRow (below 0 counts as 0) and computes the legs from
 // there to the end; "Fix" rows are renumbered. afterRow comes back on the new
 // row (with refresh, on the row that took it in if it doubled its neighbour).

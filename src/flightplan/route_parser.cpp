@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <unordered_set>
 #include <vector>
 
 #include "base/code_page.h"
@@ -105,13 +106,14 @@ std::int32_t NodeOf(const PlanWaypoint& row, const NavDatabase& database) {
   return -1;
 }
 
+using AirwayWay = std::vector<const ConnectionRec*>;
+
 // The links from node to node along an airway that begins with first, up to
-// toNode; nothing if it ends before.
-std::optional<std::vector<const ConnectionRec*>> FollowAirway(const NavDatabase& database,
-                                                              std::int32_t fromNode,
-                                                              const ConnectionRec& first, std::int32_t toNode,
-                                                              char level) {
-  std::vector<const ConnectionRec*> way = {&first};
+// toNode: at each node the first of its links that does not lead back. Nothing
+// if they lead elsewhere.
+std::optional<AirwayWay> FollowAirway(const NavDatabase& database, std::int32_t fromNode,
+                                      const ConnectionRec& first, std::int32_t toNode, char level) {
+  AirwayWay way = {&first};
   std::int32_t before = fromNode;
   while (way.back()->lngNext != toNode) {
     const std::int32_t node = way.back()->lngNext;
@@ -128,6 +130,46 @@ std::optional<std::vector<const ConnectionRec*>> FollowAirway(const NavDatabase&
     way.push_back(next);
   }
   return way;
+}
+
+// The way of fewest links along an airway that forks; nothing if it does not
+// lead to toNode at all.
+std::optional<AirwayWay> SearchForkedAirway(const NavDatabase& database, std::int32_t fromNode,
+                                            std::string_view airway, std::int32_t toNode, char level) {
+  struct Reached {
+    std::int32_t node;
+    const ConnectionRec* by;
+    std::size_t from;
+  };
+  std::vector<Reached> reached = {{fromNode, nullptr, 0}};
+  std::unordered_set<std::int32_t> seen = {fromNode};
+  for (std::size_t at = 0; at < reached.size(); ++at) {
+    for (const ConnectionRec& link : NetworkLinks(database, reached[at].node, level)) {
+      if (link.strAirway != airway || !IsNode(database, link.lngNext)) continue;
+      if (!seen.insert(link.lngNext).second) continue;
+      reached.push_back({link.lngNext, &link, at});
+      if (link.lngNext != toNode) continue;
+      AirwayWay way;
+      for (std::size_t i = reached.size() - 1; i > 0; i = reached[i].from)
+        way.insert(way.begin(), reached[i].by);
+      return way;
+    }
+  }
+  return std::nullopt;
+}
+
+// Along at most two links of that name that leave fromNode, each a direction of
+// travel; where the airway forks on the way, along its other branches.
+std::optional<AirwayWay> WayAlongAirway(const NavDatabase& database, std::int32_t fromNode,
+                                        std::int32_t toNode, std::string_view airway, char level) {
+  constexpr int directions = 2;
+  int tried = 0;
+  for (const ConnectionRec& link : NetworkLinks(database, fromNode, level)) {
+    if (link.strAirway != airway || !IsNode(database, link.lngNext)) continue;
+    if (++tried > directions) break;
+    if (auto way = FollowAirway(database, fromNode, link, toNode, level)) return way;
+  }
+  return SearchForkedAirway(database, fromNode, airway, toNode, level);
 }
 
 void TakeLink(PlanWaypoint& row, const ConnectionRec& link) {
@@ -187,27 +229,20 @@ void DropMarks(FlightPlan& plan) {
 bool ExpandAirway(FlightPlan& plan, const PlanContext& context, std::int32_t fromNode, std::int32_t toNode,
                   std::string_view airway, int network, int row) {
   const NavDatabase& database = context.database;
-  constexpr int directions = 2;
-  int tried = 0;
-  for (const ConnectionRec& link : NetworkLinks(database, fromNode, LevelOf(network))) {
-    if (link.strAirway != airway || !IsNode(database, link.lngNext)) continue;
-    if (++tried > directions) break;
-    const auto way = FollowAirway(database, fromNode, link, toNode, LevelOf(network));
-    if (!way) continue;
-    for (const ConnectionRec* step : *way) {
-      if (step == way->back()) break;
-      const IntersectionRec& node = database.intersections[static_cast<std::size_t>(step->lngNext)];
-      const char level = AirwayLevel(node);
-      PlanWaypoint between = RowFor(node, "Int", step->lngNext);
-      between.Name = node.strCode.View();
-      between.Level = std::string_view(&level, 1);
-      TakeLink(between, *step);
-      InsertWaypoint(plan, context, row, between, false);
-    }
-    TakeLink(plan.Row(row + 1), *way->back());
-    return true;
+  const auto way = WayAlongAirway(database, fromNode, toNode, airway, LevelOf(network));
+  if (!way) return false;
+  for (const ConnectionRec* step : *way) {
+    if (step == way->back()) break;
+    const IntersectionRec& node = database.intersections[static_cast<std::size_t>(step->lngNext)];
+    const char level = AirwayLevel(node);
+    PlanWaypoint between = RowFor(node, "Int", step->lngNext);
+    between.Name = node.strCode.View();
+    between.Level = std::string_view(&level, 1);
+    TakeLink(between, *step);
+    InsertWaypoint(plan, context, row, between, false);
   }
-  return false;
+  TakeLink(plan.Row(row + 1), *way->back());
+  return true;
 }
 
 bool ParseRoute(FlightPlan& plan, const PlanContext& context, std::string_view text) {

@@ -82,9 +82,32 @@ TEST(Cli, AFloatPrintsTheFewestDigitsThatReadBack) {
   EXPECT_EQ(JsonNumber(std::nanf("")).dump(), "null");
 }
 
+TEST(Cli, ARouteStringMayNameItsAirportsOrNot) {
+  const SmallHome home;
+  for (const char* route : {"", "DCT", "EDDF DCT EDDM", "eddf eddm"}) {
+    PlanRequest request;
+    request.departure = "EDDF";
+    request.destination = "EDDM";
+    request.mode = PlanMode::route;
+    request.route = route;
+    request.alternate = "EDDF";
+    const CommandRun run = Capture([&] { return RunPlan(JsonFor(home), request); });
+    ASSERT_EQ(run.exitCode, exitDone) << route << run.err;
+    EXPECT_EQ(run.Document()["routeString"], "EDDF EDDM") << route;
+    EXPECT_EQ(run.Document()["alternate"], "EDDF") << route;
+    request.sid = "NONE1A";
+    EXPECT_EQ(Capture([&] { return RunPlan(JsonFor(home), request); }).exitCode, exitNotDone)
+        << "there are no procedures";
+  }
+}
+
 TEST(Cli, APlanIsPrintedAndSavedOrToldWhyNot) {
   const SmallHome home;
-  PlanRequest request{"EDDF", "eddm", PlanMode::direct, 1, (home.Path() / "direct.pln").string()};
+  PlanRequest request;
+  request.departure = "EDDF";
+  request.destination = "eddm";
+  request.aircraft = 1;
+  request.saveAs = (home.Path() / "direct.pln").string();
   const CommandRun direct = Capture([&] { return RunPlan(JsonFor(home), request); });
   ASSERT_EQ(direct.exitCode, exitDone) << direct.err;
   EXPECT_EQ(direct.Document()["aircraft"]["name"], "Slow");
@@ -95,7 +118,10 @@ TEST(Cli, APlanIsPrintedAndSavedOrToldWhyNot) {
   EXPECT_EQ(Capture([&] { return RunPlan(JsonFor(home), request); }).exitCode, exitNotDone);
 
   // The small world has no airways: the message is told and nothing is saved.
-  request = {"EDDF", "EDDM", PlanMode::highAltitude, std::nullopt, (home.Path() / "high.pln").string()};
+  request.destination = "EDDM";
+  request.mode = PlanMode::highAltitude;
+  request.aircraft.reset();
+  request.saveAs = (home.Path() / "high.pln").string();
   const CommandRun high = Capture([&] { return RunPlan(JsonFor(home), request); });
   EXPECT_EQ(high.exitCode, exitNotDone);
   EXPECT_FALSE(high.Document()["messages"].empty());

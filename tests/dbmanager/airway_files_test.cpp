@@ -67,7 +67,9 @@ TEST(AirwayFiles, HoldEachSegmentInBothDirectionsAndOnceInTheLists) {
   EXPECT_EQ(database.intersections[2].strName, "BRAVO");
   EXPECT_EQ(database.intersections[2].strAirwayType, "B");
   EXPECT_EQ(database.intersections[3].strName, "C");
-  EXPECT_EQ(database.LowAlt(database.intersections[1])[0].sngDistance, GreatCircleDistance(10, 20, 11, 20));
+  EXPECT_EQ(database.intersections[2].sngLat, 11.001F) << "where the navaid of that name is";
+  EXPECT_EQ(database.LowAlt(database.intersections[1])[0].sngDistance,
+            GreatCircleDistance(10, 20, 11.001F, 20));
   ASSERT_EQ(database.victorAirways.size(), 2u);
   EXPECT_EQ(database.victorAirways[1].strName, "W 22");
   EXPECT_EQ(database.victorAirways[1].strUpper, "FL100");

@@ -109,6 +109,14 @@ TEST(ParseRoute, ReadsBackWhatThePlanWrites) {
   }
 }
 
+TEST(ParseRoute, FindsItsWayWhereAnAirwayForks) {
+  DrawnPlan p(
+      "airport EDDA 50 8 0\nairport EDDB 50 14 0\nA 50 9\nB 50 10\nSPUR 51 10\nC 50 11\nD 50 12\n"
+      "A --38-- B R1\nB --60-- SPUR R1\nB --38-- C R1\nC --38-- D R1\n");
+  EXPECT_TRUE(ParseRoute(p.plan, p.context, "EDDA A R1 D EDDB"));
+  EXPECT_EQ(p.Codes(), "EDDA A B C D EDDB");
+}
+
 TEST(ParseRoute, ARingDoesNotHoldItUp) {
   DrawnPlan p(
       "airport EDDA 50 8 0\nairport EDDB 50 14 0\nA 50 9\nB 50 10\nC 51 10\nX 49 9\n"
