@@ -207,7 +207,12 @@ bool JoinRows(FlightPlan& plan, const PlanContext& context) {
     const PlanWaypoint next = plan.Row(i + 1);
     carried = next.AirwayLink != noNetwork ? next.Airway.Text() : std::string();
     const std::int32_t toNode = i + 1 < plan.DestinationRow() ? NodeOf(next, context.database) : -1;
-    if (toNode >= 0 && ExpandAirway(plan, context, row.DbIndex, toNode, airway, network, i)) continue;
+    // Of an airway's two levels only one may lead there.
+    const std::int32_t fromNode = row.DbIndex;
+    const int other = network == victorNetwork ? jetNetwork : victorNetwork;
+    if (toNode >= 0 && (ExpandAirway(plan, context, fromNode, toNode, airway, network, i) ||
+                        ExpandAirway(plan, context, fromNode, toNode, airway, other, i)))
+      continue;
     context.messages.Show(CodePageToUtf8(next.Code.Text() + " is not on airway " + airway) +
                               "\nFlightplan cannot be completed!",
                           MessageIcon::exclamation);

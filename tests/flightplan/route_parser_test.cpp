@@ -117,6 +117,15 @@ TEST(ParseRoute, FindsItsWayWhereAnAirwayForks) {
   EXPECT_EQ(p.Codes(), "EDDA A B C D EDDB");
 }
 
+TEST(ParseRoute, TakesTheLevelOfAnAirwayThatLeadsThere) {
+  DrawnPlan p(
+      "airport EDDA 50 8 0\nairport EDDB 50 14 0\nA 50 9\nB 50 10\nC 50 11\n"
+      "A --38-- B R1 FL50-FL100\nA ==38== B R1 FL250-FL460\nB ==38== C R1 FL250-FL460\n");
+  EXPECT_TRUE(ParseRoute(p.plan, p.context, "EDDA A R1 C EDDB"));
+  EXPECT_EQ(p.Codes(), "EDDA A B C EDDB");
+  EXPECT_EQ(p.plan.Row(2).AirwayMinAlt, 25000);
+}
+
 TEST(ParseRoute, ARingDoesNotHoldItUp) {
   DrawnPlan p(
       "airport EDDA 50 8 0\nairport EDDB 50 14 0\nA 50 9\nB 50 10\nC 51 10\nX 49 9\n"
