@@ -11,11 +11,13 @@ namespace {
 constexpr double haloWeight = 0.5;      // of each of the rim's four shifted copies
 constexpr std::size_t mostDiscs = 200;  // far more than one map uses; then begins anew
 
+// The part of a picture that is not empty, its origin at originX, 0.
 CoverageMask Trimmed(const QImage& picture, int originX) {
   int left = picture.width(), right = -1, top = picture.height(), bottom = -1;
   for (int y = 0; y < picture.height(); ++y) {
+    const uchar* const row = picture.constScanLine(y);
     for (int x = 0; x < picture.width(); ++x) {
-      if (qAlpha(picture.pixel(x, y)) == 0) continue;
+      if (row[x] == 0) continue;
       left = std::min(left, x), right = std::max(right, x);
       top = std::min(top, y), bottom = std::max(bottom, y);
     }
@@ -26,9 +28,10 @@ CoverageMask Trimmed(const QImage& picture, int originX) {
   mask.top = top;
   mask.width = right - left + 1;
   mask.height = bottom - top + 1;
-  for (int y = top; y <= bottom; ++y)
-    for (int x = left; x <= right; ++x)
-      mask.coverage.push_back(static_cast<std::uint8_t>(qAlpha(picture.pixel(x, y))));
+  for (int y = top; y <= bottom; ++y) {
+    const uchar* const row = picture.constScanLine(y);
+    mask.coverage.insert(mask.coverage.end(), row + left, row + right + 1);
+  }
   return mask;
 }
 
@@ -80,16 +83,19 @@ const Glyph& GlyphSet::At(char32_t character, int subpixel) {
 }
 
 Glyph GlyphSet::Draw(char32_t character, int subpixel) const {
-  const int margin = static_cast<int>(std::ceil(metrics.height())) + 2;
-  const int width = static_cast<int>(std::ceil(metrics.maxWidth())) + 2 * margin;
-  QImage picture(width, 2 * margin, QImage::Format_ARGB32_Premultiplied);
-  picture.fill(Qt::transparent);
+  const QString text = QString::fromUcs4(&character, 1);
+  // Room for what leans over its advance.
+  const int margin = static_cast<int>(std::ceil(metrics.height() / 2)) + 2;
+  const int width = static_cast<int>(std::ceil(metrics.horizontalAdvance(text))) + 2 * margin;
+  const int height = static_cast<int>(std::ceil(metrics.height())) + margin;
+  QImage picture(width, height, QImage::Format_Alpha8);
+  picture.fill(0);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.setFont(font);
   painter.setPen(Qt::white);
   painter.drawText(QPointF(margin + static_cast<double>(subpixel) / subpixels, std::round(metrics.ascent())),
-                   QString::fromUcs4(&character, 1));
+                   text);
   painter.end();
   Glyph glyph;
   glyph.ink = Trimmed(picture, margin);
