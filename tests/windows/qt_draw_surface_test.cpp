@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
+#include <QPdfWriter>
+
 #include <cmath>
 #include <limits>
 
@@ -129,6 +132,73 @@ TEST(QtDrawSurface, TextIsMeasuredInUnitsAndGrowsWithTheFont) {
       inside += qRed(image.pixel(x, y)) > 0 ? 1 : 0;
   EXPECT_GT(inside, 50);
   EXPECT_EQ(inside, LitPixels(image)) << "nothing is printed outside the box that was measured";
+}
+
+// Lines, shapes, discs and a text, on any surface.
+void DrawSomeOfEach(DrawSurface& surface) {
+  surface.Clear(0x400000);
+  const SurfacePoint shape[] = {{1000, 1000}, {5000, 1500}, {4000, 5000}, {1500, 4000}};
+  surface.Opacity = 0.6F;
+  surface.Polygon(shape, 0x00FF00);
+  surface.Opacity = 1;
+  for (const float width : {1.0F, 2.5F}) {
+    surface.DrawWidth = width;
+    surface.Line(500, 6000, 10000, 500 * width, 0x00FFFF);
+    surface.Polyline(shape, 0xFFFFFF);
+  }
+  surface.Circle(8000, 4000, 200, 0xFF00FF);
+  surface.FillStyle = FillStyleKind::solid;
+  surface.FillColor = 0x0000FF;
+  surface.Circle(9000, 4000, 150, 0xFFFFFF);
+  surface.DrawWidth = 4;
+  surface.PSet(9500, 5000, 0xFFFFFF);
+  surface.FontSize = 14;
+  surface.ForeColor = 0xFFFFFF;
+  surface.CurrentX = 6000;
+  surface.CurrentY = 5500;
+  surface.Print("EDDF Frankfurt");
+}
+
+TEST(QtDrawSurface, DrawsWhatTheGeneralPainterDraws) {
+  QImage fast = Blank();
+  QImage general = Blank();
+  {
+    QtDrawSurface surface(fast);
+    DrawSomeOfEach(surface);
+    QPainter painter(&general);
+    QtPainterSurface other(painter, PagePlacement(general.width(), general.height()));
+    DrawSomeOfEach(other);
+  }
+  int different = 0;
+  for (int y = 0; y < fast.height(); ++y) {
+    for (int x = 0; x < fast.width(); ++x) {
+      const QRgb a = fast.pixel(x, y);
+      const QRgb b = general.pixel(x, y);
+      const int most = std::max(
+          {std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+      different += most > 96 ? 1 : 0;
+    }
+  }
+  // Rims of strokes and letters may differ in how they are smoothed.
+  EXPECT_LT(different, 400) << "of " << fast.width() * fast.height() << " pixels";
+}
+
+TEST(QtPainterSurface, PrintsOnPages) {
+  QBuffer pages;
+  pages.open(QIODevice::WriteOnly);
+  QPdfWriter printer(&pages);
+  printer.setResolution(300);
+  QPainter painter(&printer);
+  QtPainterSurface surface(painter, PagePlacement(printer.width(), printer.height()), 300 / 96.0);
+  EXPECT_NEAR(surface.TextWidth("EDDF") / surface.TextHeight("EDDF"), 1.6F, 0.6F);
+  DrawSomeOfEach(surface);
+  const qsizetype onePage = pages.size();
+  printer.newPage();
+  DrawSomeOfEach(surface);
+  painter.end();
+  EXPECT_TRUE(pages.data().startsWith("%PDF"));
+  EXPECT_EQ(pages.data().count("/Type /Page\n"), 2);
+  EXPECT_GT(pages.size(), onePage);
 }
 
 }  // namespace
