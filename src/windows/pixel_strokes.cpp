@@ -19,7 +19,7 @@ QRgb Mixed(QRgb below, QRgb color, int weight) {
 }
 
 int WeightOf(float coverage) {
-  return std::clamp(static_cast<int>(coverage * 256 + 0.5F), 0, 256);
+  return std::clamp(static_cast<int>(std::lround(coverage * 256)), 0, 256);
 }
 
 // One edge of Liang and Barsky's clipping; false if the line lies outside.
