@@ -30,7 +30,7 @@ std::vector<RandomView> RandomViews() {
     const Position place = thick[random() % thick.size()];
     const bool anywhere = i % 4 == 0;
     views.push_back({anywhere ? -90 + 180 * part() : place.lat, anywhere ? -180 + 360 * part() : place.lon,
-                     static_cast<int>(i % ZoomTable.size()), factors[random() % std::size(factors)]});
+                     i % static_cast<int>(ZoomTable.size()), factors[random() % std::size(factors)]});
   }
   return views;
 }

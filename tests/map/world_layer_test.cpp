@@ -32,7 +32,6 @@ RecordingSurface PaintWorld(NavDatabase& database, Position centre, int row) {
   BuildIndexes(database);
   RecordingSurface surface;
   MapView view = MapView::At(centre.lat, centre.lon, row);
-  const ColorSettings colors;
   modDeclutter labels;
   DrawMap({view, labels, database, Settings(), MapSwitches(), {}}, InDrawingOrder(DatabaseLayers()), surface);
   return surface;
