@@ -20,6 +20,10 @@ void PlanHistory::Changed(const FlightPlan& plan) {
   position = states.size() - 1;
 }
 
+void PlanHistory::Adopt(const FlightPlan& plan) {
+  states[position] = WithoutSelection(plan);
+}
+
 void PlanHistory::Undo(FlightPlan& plan) {
   if (CanUndo()) plan = states[--position];
 }

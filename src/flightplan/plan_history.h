@@ -12,6 +12,10 @@ class PlanHistory {
   // The plan as it is now follows what was; what had been undone is gone.
   void Changed(const FlightPlan& plan);
 
+  // The plan has other figures now but is no other plan (another aircraft): it
+  // takes the place of its state.
+  void Adopt(const FlightPlan& plan);
+
   bool CanUndo() const { return position > 0; }
   bool CanRedo() const { return position + 1 < states.size(); }
   // Bring plan back, or forward again, by one change. Nothing happens when there is none.

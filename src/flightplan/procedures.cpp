@@ -126,3 +126,19 @@ bool AskDeleteStar(FlightPlan& plan, const PlanContext& context) {
   DeleteStar(plan, context);
   return true;
 }
+
+bool DeleteTableRow(FlightPlan& plan, const PlanContext& context, int rowIndex) {
+  if (rowIndex < 1 || rowIndex >= plan.DestinationRow()) return false;
+  const RowKind kind = plan.Row(rowIndex).Kind;
+  if (kind == RowKind::enroute) {
+    DeleteWaypoint(plan, context, rowIndex, true);
+    return true;
+  }
+  const std::string name = kind == RowKind::sid ? "SID" : "STAR";
+  if (!context.messages.AskYesNo("You cannot delete a single waypoint of a " + name +
+                                     "!\n      Do you wish to delete the entire " + name + "?",
+                                 MessageIcon::question))
+    return false;
+  kind == RowKind::sid ? DeleteSid(plan, context) : DeleteStar(plan, context);
+  return true;
+}

@@ -27,3 +27,8 @@ void DeleteStar(FlightPlan& plan, const PlanContext& context);
 // The same on the pilot's yes. True if it was deleted.
 bool AskDeleteSid(FlightPlan& plan, const PlanContext& context);
 bool AskDeleteStar(FlightPlan& plan, const PlanContext& context);
+
+// The delete key on a row of the table: an enroute row goes at once, a row of a
+// procedure only with the whole of it and on the pilot's yes, the airports
+// never. True if the plan has changed.
+bool DeleteTableRow(FlightPlan& plan, const PlanContext& context, int rowIndex);

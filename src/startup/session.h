@@ -8,6 +8,7 @@
 #include "base/app_folder.h"
 #include "flightplan/aircraft.h"
 #include "flightplan/flight_plan.h"
+#include "flightplan/plan_history.h"
 #include "map/map_selection.h"
 #include "map/map_switches.h"
 #include "map/map_view.h"
@@ -26,6 +27,7 @@ struct Session {
   std::vector<AircraftRec> aircraftList;
   AircraftRec aircraft;  // the current one
   FlightPlan plan;
+  PlanHistory planHistory;
   MapView view;
   MapSwitches switches;
   MapSelection selection;

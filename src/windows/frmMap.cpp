@@ -66,6 +66,7 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   BuildPanels();
   ConnectCanvas();
   connect(panel, &pnlFlightplan::RowPicked, this, [this] { FollowPointer(); });
+  connect(panel, &pnlFlightplan::DeleteAsked, this, &frmMap::DeleteRow);
   askPlanFile = [this](const QString& proposal) {
     return QFileDialog::getSaveFileName(this, tr("Save flight plan"), proposal, tr("Flight plans (*.pln)"));
   };

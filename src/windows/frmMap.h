@@ -27,6 +27,7 @@
 #include "startup/session.h"
 #include "windows/map_canvas.h"
 #include "windows/pnlFlightplan.h"
+#include "windows/route_field.h"
 #include "windows/status_strip.h"
 #include "windows/toggle_ribbon.h"
 
@@ -125,7 +126,17 @@ class frmMap : public QMainWindow {
   Position PointerPosition() const;
 
   // The plan.
+  void ChangePlan(std::string_view head, const std::function<void()>& change);
   void GenerateRoute(AirwayNetwork network);
+  void CreateFP();
+  void BuildRouteField(class QToolBar* bar);
+  void TakeRouteText();
+  void ShowNewPlan();
+  void UndoPlan();
+  void RedoPlan();
+  void RestorePlan(void (PlanHistory::*step)(FlightPlan&));
+  void DeleteEnrouteWPs();
+  void DeleteRow(int row);
   void TakeAircraft(const AircraftRec& aircraft);
   void NewPlan();
   void SavePlan();
@@ -150,6 +161,7 @@ class frmMap : public QMainWindow {
   QLabel* lblCourseRadial;
   StatusStrip* lblMapStatus;
   pnlFlightplan* panel;
+  RouteField* txtRoute;
   std::map<QString, QAction*> actions;  // by menu name
   QActionGroup* aircraftGroup;
   QTimer tmrClock;

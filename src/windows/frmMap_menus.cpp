@@ -62,11 +62,22 @@ void frmMap::BuildPlanMenu() {
       "mnuSelectAP", tr("&Airports..."), [this] { SelectAirports(); }, "Ctrl+N"));
   plan->addSeparator();
   plan->addAction(AddCommand(
+      "mnuCreateNavaid", tr("From &navaid to navaid"), [this] { CreateFP(); }, "Ctrl+K"));
+  plan->addAction(AddCommand(
       "mnuCreateLoAlt", tr("&Low altitude airways"), [this] { GenerateRoute(AirwayNetwork::lowAltitude); },
       "Ctrl+L"));
   plan->addAction(AddCommand(
       "mnuCreateHiAlt", tr("&High altitude airways"), [this] { GenerateRoute(AirwayNetwork::highAltitude); },
       "Ctrl+H"));
+  plan->addAction(AddCommand(
+      "mnuRoute", tr("&Route string"), [this] { txtRoute->Edit(); }, "Ctrl+R"));
+  plan->addSeparator();
+  plan->addAction(AddCommand(
+      "mnuUndo", tr("&Undo"), [this] { UndoPlan(); }, "Ctrl+Z"));
+  plan->addAction(AddCommand(
+      "mnuRedo", tr("Re&do"), [this] { RedoPlan(); }, "Ctrl+Y"));
+  plan->addAction(
+      AddCommand("mnuDeleteEnrouteWPs", tr("Delete all &waypoints"), [this] { DeleteEnrouteWPs(); }));
   plan->addSeparator();
   plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { NewPlan(); }));
   plan->addAction(AddCommand(
@@ -224,12 +235,31 @@ void frmMap::BuildToolBar() {
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   AddButton(bar, actions["mnuSelectAP"], "cmdSelectAP", tr("Airports"), "airports");
+  AddButton(bar, actions["mnuCreateNavaid"], "cmdCreateFP", tr("Navaids"), "navaid_route");
   AddButton(bar, actions["mnuCreateLoAlt"], "cmdLoAlt", tr("Low route"), "low_route");
   AddButton(bar, actions["mnuCreateHiAlt"], "cmdHiAlt", tr("High route"), "high_route");
   AddButton(bar, actions["mnuSaveFPAs"], "cmdSaveFPAs", tr("Save"), "save");
   bar->addSeparator();
   AddButton(bar, actions["mnuZoomIn"], "cmdZoom", {}, "zoom_in");
   AddButton(bar, actions["mnuZoomOut"], "cmdUnzoom", {}, "zoom_out");
+  bar->addSeparator();
+  BuildRouteField(bar);
+}
+
+void frmMap::BuildRouteField(QToolBar* bar) {
+  txtRoute = new RouteField(bar);
+  bar->addWidget(txtRoute);
+  auto* take = new QToolButton(bar);
+  take->setObjectName("cmdRoute");
+  take->setText(tr("Take"));
+  take->setToolTip(tr("Make the plan that the route string says (Enter)"));
+  take->setFocusPolicy(Qt::TabFocus);
+  bar->addWidget(take);
+  const auto show = [this, take] { take->setEnabled(txtRoute->CanTake()); };
+  show();
+  connect(txtRoute, &QLineEdit::textChanged, this, show);
+  connect(txtRoute, &QLineEdit::returnPressed, this, &frmMap::TakeRouteText);
+  connect(take, &QToolButton::clicked, this, &frmMap::TakeRouteText);
 }
 
 void frmMap::BuildRibbon() {

@@ -8,6 +8,9 @@
 #include "flightplan/plan_layers.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
+#include "flightplan/procedures.h"
+#include "flightplan/route_parser.h"
+#include "flightplan/route_string.h"
 #include "windows/frmMap.h"
 #include "windows/frmSelectAP.h"
 
@@ -25,6 +28,10 @@ void frmMap::SelectAirports() {
 void frmMap::StartPlan(int departureRow, int destinationRow) {
   SetDepartureAndDestination(session.plan, Context(), departureRow, destinationRow);
   PlanChanged();
+  ShowNewPlan();
+}
+
+void frmMap::ShowNewPlan() {
   // The panel takes its place beside the map before the plan is fitted into it.
   centralWidget()->layout()->activate();
   const SurfacePoint visible = Map->VisibleUnits();
@@ -35,20 +42,68 @@ void frmMap::StartPlan(int departureRow, int destinationRow) {
   CentreMoved();
 }
 
-void frmMap::GenerateRoute(AirwayNetwork network) {
-  Trapped("frmMap GenerateRoute (", [&] {
-    {
-      const HourglassWhile working(pointer);
-      GenerateAirwayRoute(session.plan, Context(), search, network);
-    }
+void frmMap::ChangePlan(std::string_view head, const std::function<void()>& change) {
+  // Whatever a change that failed left behind is shown, and can be undone.
+  Trapped(head, [&] {
+    const HourglassWhile working(pointer);
+    change();
+  });
+  Trapped(head, [&] {
     PlanChanged();
     DrawMap();
   });
 }
 
+void frmMap::GenerateRoute(AirwayNetwork network) {
+  ChangePlan("frmMap GenerateRoute (",
+             [&] { GenerateAirwayRoute(session.plan, Context(), search, network); });
+}
+
+void frmMap::CreateFP() {
+  ChangePlan("frmMap mnuCreateNavaid (", [&] {
+    const MapSwitches& on = session.switches;
+    const Settings& settings = session.settings;
+    GenerateNavaidRoute(session.plan, Context(), {on.mnuVOR, on.mnuNDB, on.mnuIntersection},
+                        {settings.SECLEN, settings.SECWIDTH, settings.GC != 0});
+  });
+}
+
+void frmMap::TakeRouteText() {
+  if (!txtRoute->CanTake()) return;
+  ChangePlan("frmMap cmdRoute (",
+             [&] { ParseRoute(session.plan, Context(), txtRoute->text().trimmed().toStdString()); });
+  if (session.plan.RowCount() >= 2) Trapped("frmMap cmdRoute (", [&] { ShowNewPlan(); });
+}
+
+void frmMap::UndoPlan() {
+  RestorePlan(&PlanHistory::Undo);
+}
+
+void frmMap::RedoPlan() {
+  RestorePlan(&PlanHistory::Redo);
+}
+
+void frmMap::RestorePlan(void (PlanHistory::*step)(FlightPlan&)) {
+  ChangePlan("frmMap mnuUndo (", [&] {
+    (session.planHistory.*step)(session.plan);
+    // The times are those of the aircraft that flies now.
+    SelectAircraft(AircraftRec(session.aircraft), session.aircraft, session.plan);
+    session.planHistory.Adopt(session.plan);
+  });
+}
+
+void frmMap::DeleteEnrouteWPs() {
+  ChangePlan("frmMap mnuDeleteEnrouteWPs (", [&] { DeleteEnrouteWaypoints(session.plan, Context()); });
+}
+
+void frmMap::DeleteRow(int row) {
+  ChangePlan("frmMap grdWPTable (", [&] { DeleteTableRow(session.plan, Context(), row); });
+}
+
 void frmMap::TakeAircraft(const AircraftRec& aircraft) {
   Trapped("frmMap mnuAircraft (", [&] {
     SelectAircraft(aircraft, session.aircraft, session.plan);
+    session.planHistory.Adopt(session.plan);
     session.settings.AIRCRAFT = aircraft.Number;
     PlanChanged();
   });
@@ -88,8 +143,13 @@ void frmMap::SavePlan() {
 
 void frmMap::PlanChanged() {
   const FlightPlan& plan = session.plan;
-  for (const char* name : {"mnuCreateLoAlt", "mnuCreateHiAlt"})
+  session.planHistory.Changed(plan);
+  actions["mnuUndo"]->setEnabled(session.planHistory.CanUndo());
+  actions["mnuRedo"]->setEnabled(session.planHistory.CanRedo());
+  for (const char* name : {"mnuCreateNavaid", "mnuCreateLoAlt", "mnuCreateHiAlt"})
     actions[name]->setEnabled(plan.PlanFiled);
+  actions["mnuDeleteEnrouteWPs"]->setEnabled(plan.RowCount() > 2);
+  txtRoute->setText(QString::fromStdString(RouteStringFromPlan(plan)));
   actions["mnuSaveFPAs"]->setEnabled(plan.CanSave);
   actions["mnuNewFP"]->setEnabled(plan.RowCount() > 0);
   panel->Refresh();

@@ -159,13 +159,19 @@ void pnlFlightplan::TakeSelection() {
 void pnlFlightplan::ShowHint() {
   const bool selected = plan.SelectedRow > 0 && plan.SelectedRow < plan.DestinationRow();
   lblHint->setText(selected
-                       ? tr("A route now fills the leg behind %1. Esc selects the whole plan.")
+                       ? tr("A route now fills the leg behind %1; Delete takes it out of the plan. Esc "
+                            "selects the whole plan.")
                              .arg(CodeAt(plan, plan.SelectedRow))
                        : tr("A route replaces everything between the airports. Select a row to fill only "
                             "the leg behind it."));
 }
 
 bool pnlFlightplan::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == grdWPTable && event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
+    if (plan.SelectedRow > 0) Q_EMIT DeleteAsked(plan.SelectedRow);
+    return true;
+  }
   if (watched == grdWPTable && event->type() == QEvent::KeyPress &&
       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
       grdWPTable->selectionModel()->hasSelection()) {

@@ -40,6 +40,8 @@ class pnlFlightplan : public QFrame {
   void Refresh();
 
  Q_SIGNALS:
+  // The delete key on a row of the table.
+  void DeleteAsked(int row);
   // Another row is selected, or none.
   void RowPicked();
 

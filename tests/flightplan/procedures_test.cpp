@@ -126,6 +126,24 @@ TEST(Procedures, BecomeRowsOfThePlan) {
   EXPECT_TRUE(d.plan.StarSteps.empty());
 }
 
+TEST(Procedures, ARowOfOneIsDeletedWithTheWholeOfIt) {
+  Departing d;
+  d.Add("Uwp", "ME", 50.5F, 11);
+  ApplySid(d.plan, d.context, d.entries[0]);
+  d.messages.answer = false;
+  EXPECT_FALSE(DeleteTableRow(d.plan, d.context, 1));
+  EXPECT_EQ(d.messages.texts.back(),
+            "You cannot delete a single waypoint of a SID!\n      Do you wish to delete the entire SID?");
+  EXPECT_EQ(d.Codes(), "EDDA A B ME EDDB");
+  EXPECT_TRUE(DeleteTableRow(d.plan, d.context, 3)) << "an enroute row goes without a question";
+  d.messages.answer = true;
+  EXPECT_TRUE(DeleteTableRow(d.plan, d.context, 2));
+  EXPECT_EQ(d.Codes(), "EDDA EDDB");
+  EXPECT_TRUE(d.plan.SidName.empty());
+  for (const int row : {-1, 0, 1, 2})
+    EXPECT_FALSE(DeleteTableRow(d.plan, d.context, row)) << row;
+}
+
 TEST(Procedures, AreDeletedOnYes) {
   Departing d;
   ApplySid(d.plan, d.context, d.entries[0]);
