@@ -150,6 +150,7 @@ void frmMap::PlanChanged() {
     actions[name]->setEnabled(plan.PlanFiled);
   actions["mnuDeleteEnrouteWPs"]->setEnabled(plan.RowCount() > 2);
   txtRoute->setText(QString::fromStdString(RouteStringFromPlan(plan)));
+  txtRoute->setCursorPosition(0);  // a long one shows its beginning
   actions["mnuSaveFPAs"]->setEnabled(plan.CanSave);
   actions["mnuNewFP"]->setEnabled(plan.RowCount() > 0);
   panel->Refresh();
