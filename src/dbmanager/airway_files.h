@@ -26,7 +26,8 @@ struct AirwayFiles {
 
 // Points are numbered from 1 in the order in which the source first names
 // them, at most lastRow of them: if there are more, those with the most links
-// stay. A point that is a navaid bears the navaid's name, any other its ident.
+// stay. A point that is a navaid lies where the
+// navaid lies and bears its name, any other bears its ident.
 AirwayFiles MakeAirwayFiles(std::span<const SourceAirway> segments, const NavData& navaids,
                             const std::function<double(SourcePosition)>& variationAt,
                             std::size_t lastRow = 40000);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/code_page.h"
+#include "flightplan/object_rows.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
 #include "navdata/geodesy.h"
@@ -32,12 +33,6 @@ bool IsOnNetwork(char nodeLevel, char level) {
 
 float DistanceToNode(const PlanWaypoint& row, const IntersectionRec& node) {
   return GreatCircleDistance(row.Lat, row.Lon, node.sngLat, node.sngLon);
-}
-
-// The angle between two courses, 0 to 180.
-float CourseDifference(float a, float b) {
-  const float difference = std::fabs(a - b);
-  return difference > 180.0f ? 360.0f - difference : difference;
 }
 
 // The last node of the row's name at the row's place, -1 if none.
@@ -93,20 +88,11 @@ bool HasExitWithin(const PlanWaypoint& row, const NavDatabase& database, char le
 
 PlanWaypoint RouteRow(const AirwaySearch::Step& step, const NavDatabase& database) {
   const IntersectionRec& node = Node(database, step.node);
-  const char level = AirwayLevel(node);
-  PlanWaypoint row;
-  row.Sym = "Int";
-  row.Code = node.strCode.View();
+  PlanWaypoint row = ObjectRow(node, step.node);
   row.Name = node.strCode.View();
   row.Airway = step.SearchAirway.View();
   row.AirwayMinAlt = step.SearchMinAlt;
   row.AirwayMaxAlt = step.SearchMaxAlt;
-  row.Freq = node.sngUnused;
-  row.Lat = node.sngLat;
-  row.Lon = node.sngLon;
-  row.MagVar = node.sngMagVar;
-  row.Level = std::string_view(&level, 1);
-  row.DbIndex = step.node;
   return row;
 }
 

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "base/numbers.h"
+#include "flightplan/object_rows.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
 #include "navdata/geodesy.h"
@@ -24,11 +25,6 @@ constexpr double alignedNearest = 30;
 constexpr double alignedFarthest = 150;
 constexpr std::int32_t cursorOverlap = 100;  // rows; the search radius moves the position back
 constexpr std::size_t locatorLength = 2;     // letters of an NDB that is only a locator
-
-float CourseDifference(float a, float b) {
-  const float difference = std::fabs(a - b);
-  return difference > 180.0F ? 360.0F - difference : difference;
-}
 
 class NavaidRun {
  public:
@@ -81,12 +77,12 @@ class NavaidRun {
     const NavDatabase& database = context.database;
     if (kinds.vor) {
       for (const std::int32_t row : database.vorsByPlace.Near(current, radius))
-        Try(database.vors[static_cast<std::size_t>(row)], "VOR", row);
+        Try(database.vors[static_cast<std::size_t>(row)], row);
     }
     if (kinds.ndb) {
       for (const std::int32_t row : database.ndbsByPlace.Near(current, radius)) {
         const NdbRec& ndb = database.ndbs[static_cast<std::size_t>(row)];
-        if (ndb.strCode.View().size() > locatorLength) Try(ndb, "NDB", row);
+        if (ndb.strCode.View().size() > locatorLength) Try(ndb, row);
       }
     }
     if (kinds.intersection) TryFirstIntersection();
@@ -101,7 +97,7 @@ class NavaidRun {
                                     : std::max(intersectionCursor - cursorOverlap, 0);
     const auto tryRow = [&](std::int32_t row) {
       if (down ? row > start : row < start) return false;
-      return Try(database.intersections[static_cast<std::size_t>(row)], "Int", row);
+      return Try(database.intersections[static_cast<std::size_t>(row)], row);
     };
     const auto found =
         down ? FindRow(near.rbegin(), near.rend(), tryRow) : FindRow(near.begin(), near.end(), tryRow);
@@ -115,7 +111,7 @@ class NavaidRun {
   }
 
   template <class Row>
-  bool Try(const Row& row, std::string_view sym, std::int32_t index) {
+  bool Try(const Row& row, std::int32_t index) {
     if (row.sngLat == current.lat || row.sngLon == current.lon) return false;
     const Position place{row.sngLat, row.sngLon};
     const float distance = Distance(current, place);
@@ -123,18 +119,15 @@ class NavaidRun {
     const float course = Course(current, place);
     if (CourseDifference(course, directCourse) > static_cast<float>(sector.SectorWidth)) return false;
     if (candidates.size() >= mostCandidates) throw std::length_error("too many navaids in one sector");
-    PlanWaypoint candidate;
-    candidate.Sym = sym;
-    candidate.Code = row.strCode.View();
-    candidate.Name = row.strName.View();
-    if constexpr (requires { row.sngFrequency; }) candidate.Freq = row.sngFrequency;
-    candidate.Lat = row.sngLat;
-    candidate.Lon = row.sngLon;
-    candidate.MagVar = row.sngMagVar;
+    PlanWaypoint candidate = ObjectRow(row, index);
     candidate.Dist = distance;
     candidate.Course = course;
     candidate.EET = static_cast<float>(EnrouteLegMinutes(distance, context.aircraft));
-    candidate.DbIndex = index;
+    if (candidate.Sym == "Int") {
+      // Of no network and no frequency: the chain is flown direct.
+      candidate.Freq = 0;
+      candidate.Level = std::string_view();
+    }
     candidates.push_back(candidate);
     return true;
   }

@@ -116,6 +116,11 @@ void DeleteWaypoint(FlightPlan& plan, const PlanContext& context, int rowIndex, 
   plan.RouteType = RouteKind::navaid;
 }
 
+void DeleteRowsOfKind(FlightPlan& plan, const PlanContext& context, RowKind kind) {
+  for (int row = plan.DestinationRow() - 1; row > 0; --row)
+    if (plan.Row(row).Kind == kind) DeleteWaypoint(plan, context, row, false);
+}
+
 void RebuildTable(FlightPlan& plan, const PlanContext& context) {
   for (int i = 1; i <= plan.DestinationRow() - 2;) {
     PlanWaypoint& row = plan.Row(i);

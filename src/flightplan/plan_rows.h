@@ -34,6 +34,9 @@ void InsertWaypoint(FlightPlan& plan, const PlanContext& context, int& afterRow,
 // departure, the destination and rows beyond.
 void DeleteWaypoint(FlightPlan& plan, const PlanContext& context, int rowIndex, bool refresh);
 
+// Takes out every row of a kind between the airports, without refresh.
+void DeleteRowsOfKind(FlightPlan& plan, const PlanContext& context, RowKind kind);
+
 // Removes doubled neighbours between the airports: the first of two stays. It
 // takes over the removed row's airway if it is a STAR row itself or the
 // removed row's level is "V" or "J".

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/code_page.h"
+#include "flightplan/object_rows.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
 
@@ -19,42 +20,18 @@ std::int32_t RowAtStep(const ProcedureStep& step, const IdentIndex& byIdent, con
   return -1;
 }
 
-template <class Row>
-PlanWaypoint RowFrom(const Row& object, std::string_view sym, std::int32_t index, RowKind kind) {
-  PlanWaypoint row;
-  row.Sym = sym;
-  row.Code = object.strCode.View();
-  row.Name = object.strName.View();
-  if constexpr (requires { object.sngFrequency; }) row.Freq = object.sngFrequency;
-  row.Lat = object.sngLat;
-  row.Lon = object.sngLon;
-  row.MagVar = object.sngMagVar;
-  row.DbIndex = index;
-  row.Kind = kind;
-  return row;
-}
-
-PlanWaypoint RowFor(const StepLink& link, const NavDatabase& database, RowKind kind) {
+PlanWaypoint RowFor(const StepLink& link, const NavDatabase& database) {
   const auto at = static_cast<std::size_t>(link.row);
   switch (link.letter) {
-    case 'I': {
-      PlanWaypoint row = RowFrom(database.intersections[at], "Int", link.row, kind);
-      const char level = AirwayLevel(database.intersections[at]);
-      row.Level = std::string_view(&level, 1);
-      return row;
-    }
+    case 'I':
+      return ObjectRow(database.intersections[at], link.row);
     case 'F':
-      return RowFrom(database.fixes[at], "Fix", link.row, kind);
+      return ObjectRow(database.fixes[at], link.row);
     case 'N':
-      return RowFrom(database.ndbs[at], "NDB", link.row, kind);
+      return ObjectRow(database.ndbs[at], link.row);
     default:
-      return RowFrom(database.vors[at], "VOR", link.row, kind);
+      return ObjectRow(database.vors[at], link.row);
   }
-}
-
-void DeleteRows(FlightPlan& plan, const PlanContext& context, RowKind kind) {
-  for (int row = plan.DestinationRow() - 1; row > 0; --row)
-    if (plan.Row(row).Kind == kind) DeleteWaypoint(plan, context, row, false);
 }
 
 void Refresh(FlightPlan& plan, const PlanContext& context) {
@@ -68,7 +45,9 @@ void InsertSteps(FlightPlan& plan, const PlanContext& context, const SidStarEntr
   for (ProcedureStep& step : kept) {
     step.Link = FindStepLink(step, context.database);
     if (step.Link.letter == 'M') continue;
-    InsertWaypoint(plan, context, afterRow, RowFor(step.Link, context.database, kind), false);
+    PlanWaypoint row = RowFor(step.Link, context.database);
+    row.Kind = kind;
+    InsertWaypoint(plan, context, afterRow, row, false);
   }
 }
 
@@ -85,7 +64,7 @@ StepLink FindStepLink(const ProcedureStep& step, const NavDatabase& database) {
 
 void ApplySid(FlightPlan& plan, const PlanContext& context, const SidStarEntry& entry) {
   if (plan.RowCount() < 2) return;
-  DeleteRows(plan, context, RowKind::sid);
+  DeleteRowsOfKind(plan, context, RowKind::sid);
   plan.SidName = CodePageToUtf8(entry.Name.View());
   InsertSteps(plan, context, entry, RowKind::sid, 0, plan.SidSteps);
   Refresh(plan, context);
@@ -93,21 +72,21 @@ void ApplySid(FlightPlan& plan, const PlanContext& context, const SidStarEntry& 
 
 void ApplyStar(FlightPlan& plan, const PlanContext& context, const SidStarEntry& entry) {
   if (plan.RowCount() < 2) return;
-  DeleteRows(plan, context, RowKind::star);
+  DeleteRowsOfKind(plan, context, RowKind::star);
   plan.StarName = CodePageToUtf8(entry.Name.View());
   InsertSteps(plan, context, entry, RowKind::star, plan.DestinationRow() - 1, plan.StarSteps);
   Refresh(plan, context);
 }
 
 void DeleteSid(FlightPlan& plan, const PlanContext& context) {
-  DeleteRows(plan, context, RowKind::sid);
+  DeleteRowsOfKind(plan, context, RowKind::sid);
   plan.SidName.clear();
   plan.SidSteps.clear();
   Refresh(plan, context);
 }
 
 void DeleteStar(FlightPlan& plan, const PlanContext& context) {
-  DeleteRows(plan, context, RowKind::star);
+  DeleteRowsOfKind(plan, context, RowKind::star);
   plan.StarName.clear();
   plan.StarSteps.clear();
   Refresh(plan, context);

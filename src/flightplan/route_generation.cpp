@@ -8,12 +8,6 @@
 
 namespace {
 
-void DeleteRowsBetweenProcedures(FlightPlan& plan, const PlanContext& context) {
-  for (int i = plan.DestinationRow() - 1; i > 0; --i) {
-    if (plan.Row(i).Kind == RowKind::enroute) DeleteWaypoint(plan, context, i, false);
-  }
-}
-
 // The row whose leg is to be filled: the selected one, else the SID's last.
 int InsertionRow(const FlightPlan& plan) {
   return plan.SelectedRow <= 0 ? plan.SidRows() : std::min<int>(plan.SelectedRow, plan.DestinationRow() - 1);
@@ -26,7 +20,7 @@ bool GenerateAirwayRoute(FlightPlan& plan, const PlanContext& context, AirwaySea
   if (!plan.PlanFiled || plan.RowCount() < 2) return false;
   const char level = network == AirwayNetwork::lowAltitude ? 'V' : 'J';
   const bool wholeRoute = plan.SelectedRow <= 0;
-  if (wholeRoute) DeleteRowsBetweenProcedures(plan, context);
+  if (wholeRoute) DeleteRowsOfKind(plan, context, RowKind::enroute);
   int insertionRow = InsertionRow(plan);
   const bool done = CreateAirwayRoute(plan, context, search, level, insertionRow);
   if (!done && wholeRoute) RecomputePlan(plan, context);
@@ -43,7 +37,7 @@ bool GenerateNavaidRoute(FlightPlan& plan, const PlanContext& context, const Nav
   if (!plan.PlanFiled || plan.RowCount() < 2) return false;
   const bool wholeRoute = plan.SelectedRow <= 0;
   const bool any = kinds.vor || kinds.ndb || kinds.intersection;
-  if (wholeRoute && any) DeleteRowsBetweenProcedures(plan, context);
+  if (wholeRoute && any) DeleteRowsOfKind(plan, context, RowKind::enroute);
   int insertionRow = InsertionRow(plan);
   const bool done = CreateNavaidRoute(plan, context, kinds, sector, insertionRow);
   if (!done && any) {

@@ -8,6 +8,7 @@
 #include "base/code_page.h"
 #include "flightplan/airway_graph.h"
 #include "flightplan/airway_search.h"
+#include "flightplan/object_rows.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
 #include "flightplan/route_string.h"
@@ -45,44 +46,25 @@ std::int32_t LastAirport(const NavDatabase& database, std::string_view code) {
   return found;
 }
 
-template <class Row>
-PlanWaypoint RowFor(const Row& object, std::string_view sym, std::int32_t index) {
-  PlanWaypoint row;
-  row.Sym = sym;
-  row.Code = object.strCode.View();
-  row.Name = object.strName.View();
-  if constexpr (requires { object.sngFrequency; }) row.Freq = object.sngFrequency;
-  if constexpr (requires { object.sngUnused; }) row.Freq = object.sngUnused;
-  row.Lat = object.sngLat;
-  row.Lon = object.sngLon;
-  row.MagVar = object.sngMagVar;
-  row.DbIndex = index;
-  return row;
-}
-
 // The object of this ident nearest to a place; on equal distance the
 // intersection, then VOR, NDB, fix, and the first row of each.
 std::optional<PlanWaypoint> NearestObject(const NavDatabase& database, std::string_view ident,
                                           Position from) {
   std::optional<PlanWaypoint> nearest;
   float best = farthestCandidate;
-  const auto consider = [&](const IdentIndex& index, const auto& table, std::string_view sym) {
+  const auto consider = [&](const IdentIndex& index, const auto& table) {
     for (const std::int32_t row : index.All(ident)) {
       const auto& object = table[static_cast<std::size_t>(row)];
       const float distance = GreatCircleDistance(from.lat, from.lon, object.sngLat, object.sngLon);
       if (!(distance < best)) continue;
       best = distance;
-      nearest = RowFor(object, sym, row);
+      nearest = ObjectRow(object, row);
     }
   };
-  consider(database.intersectionsByIdent, database.intersections, "Int");
-  consider(database.vorsByIdent, database.vors, "VOR");
-  consider(database.ndbsByIdent, database.ndbs, "NDB");
-  consider(database.fixesByIdent, database.fixes, "Fix");
-  if (nearest && nearest->Sym == "Int") {
-    const char level = AirwayLevel(database.intersections[static_cast<std::size_t>(nearest->DbIndex)]);
-    nearest->Level = std::string_view(&level, 1);
-  }
+  consider(database.intersectionsByIdent, database.intersections);
+  consider(database.vorsByIdent, database.vors);
+  consider(database.ndbsByIdent, database.ndbs);
+  consider(database.fixesByIdent, database.fixes);
   return nearest;
 }
 
@@ -239,10 +221,8 @@ bool ExpandAirway(FlightPlan& plan, const PlanContext& context, std::int32_t fro
   for (const ConnectionRec* step : *way) {
     if (step == way->back()) break;
     const IntersectionRec& node = database.intersections[static_cast<std::size_t>(step->lngNext)];
-    const char level = AirwayLevel(node);
-    PlanWaypoint between = RowFor(node, "Int", step->lngNext);
+    PlanWaypoint between = ObjectRow(node, step->lngNext);
     between.Name = node.strCode.View();
-    between.Level = std::string_view(&level, 1);
     TakeLink(between, *step);
     InsertWaypoint(plan, context, row, between, false);
   }

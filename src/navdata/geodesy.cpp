@@ -106,6 +106,11 @@ double NormalizeDeg(double value) {
   return value;
 }
 
+float CourseDifference(float a, float b) {
+  const float difference = std::fabs(a - b);
+  return difference > 180.0F ? 360.0F - difference : difference;
+}
+
 double FeetToNM(double feet) {
   return feet / feetPerNM;
 }

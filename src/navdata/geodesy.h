@@ -33,6 +33,9 @@ double RadToDeg(double rad);
 // above 360, and 360 stays 360.
 double NormalizeDeg(double value);
 
+// The angle between two courses of 0 to 360, 0 to 180.
+float CourseDifference(float a, float b);
+
 double FeetToNM(double feet);
 
 // Spherical law of cosines. Equal latitudes or longitudes are kept apart by

@@ -88,7 +88,7 @@ struct Settings {
   std::int32_t HEIGHT = 0;
   // What the main window keeps of its menus and ribbons: bits by map/switch_settings.h.
   std::int32_t BUTTON = 1;
-  std::int32_t MENU = 1073751485;
+  std::int32_t MENU = 1 << 30 | 9661;  // stored; the switches that are on at first
   std::int32_t AIMENU = 0;
   std::int32_t AIRSPACE = 0;
   std::int32_t AITRAFFIC = 0;
