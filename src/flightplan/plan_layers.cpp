@@ -27,13 +27,8 @@ constexpr std::int16_t farthestPolarRow = 19;
 
 void DrawPlanLine(const MapPaint& paint, const FlightPlan& plan) {
   std::vector<SurfaceLine> lines;
-  for (std::size_t row = 1; row < plan.rows.size(); ++row) {
-    const PlanWaypoint& from = plan.rows[row - 1];
-    const PlanWaypoint& to = plan.rows[row];
-    const auto places = GreatCirclePlaces({from.Lat, from.Lon}, {to.Lat, to.Lon}, greatCircleStepNM);
-    for (std::size_t i = 1; i < places.size(); ++i)
-      AppendMapLine(paint.projection, places[i - 1], places[i], lines);
-  }
+  for (std::size_t row = 1; row < plan.rows.size(); ++row)
+    AppendLegLines(paint.projection, PlaceOf(plan.rows[row - 1]), PlaceOf(plan.rows[row]), lines);
   paint.surface.DrawWidth = 2.4F;
   paint.surface.Lines(lines, paint.colors.ROUTE);
 }
@@ -147,15 +142,21 @@ PlanExtent ExtentOf(const FlightPlan& plan) {
     extent.east = std::max(extent.east, lon);
   };
   for (std::size_t row = 1; row < plan.rows.size(); ++row) {
-    const PlanWaypoint& from = plan.rows[row - 1];
-    const PlanWaypoint& to = plan.rows[row];
-    for (const Position place : GreatCirclePlaces({from.Lat, from.Lon}, {to.Lat, to.Lon}, greatCircleStepNM))
+    const Position from = PlaceOf(plan.rows[row - 1]);
+    for (const Position place : GreatCirclePlaces(from, PlaceOf(plan.rows[row]), greatCircleStepNM))
       include(place);
   }
   return extent;
 }
 
 }  // namespace
+
+void AppendLegLines(const Projection& projection, Position from, Position to,
+                    std::vector<SurfaceLine>& lines) {
+  const std::vector<Position> places = GreatCirclePlaces(from, to, greatCircleStepNM);
+  for (std::size_t i = 1; i < places.size(); ++i)
+    AppendMapLine(projection, places[i - 1], places[i], lines);
+}
 
 std::vector<MapLayer> PlanLayers(const FlightPlan& plan) {
   const auto hasRows = [&plan](const MapPaint&) { return !plan.rows.empty(); };

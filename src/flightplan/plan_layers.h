@@ -10,6 +10,14 @@
 // The layers show plan as it is whenever they draw; it must outlive them.
 std::vector<MapLayer> PlanLayers(const FlightPlan& plan);
 
+inline Position PlaceOf(const PlanWaypoint& row) {
+  return {row.Lat, row.Lon};
+}
+
+// Appends the lines that a leg is drawn as: the great circle in short steps.
+void AppendLegLines(const Projection& projection, Position from, Position to,
+                    std::vector<SurfaceLine>& lines);
+
 // What can be seen of the page, in units.
 struct VisiblePage {
   float width = mapScaleWidth;

@@ -64,31 +64,37 @@ std::vector<std::vector<SurfacePoint>> ShapeOnPage(const Projection& projection,
   return appearances;
 }
 
+GreatCircleArc::GreatCircleArc(Position from, Position to)
+    : from(from),
+      to(to),
+      distance(GreatCircleDistance(from.lat, from.lon, to.lat, to.lon)),
+      angle(DegToRad(distance / 60)),
+      sine(std::sin(angle)),
+      a(VectorOf(from)),
+      b(VectorOf(to)) {}
+
+GreatCircleArc::Vector GreatCircleArc::VectorOf(Position place) {
+  const double lat = DegToRad(place.lat);
+  const double lon = DegToRad(place.lon);
+  return {std::cos(lat) * std::cos(lon), std::cos(lat) * std::sin(lon), std::sin(lat)};
+}
+
+Position GreatCircleArc::At(double part) const {
+  if (!HasDirection()) return part < 0.5 ? from : to;
+  const double wa = std::sin((1 - part) * angle) / sine;
+  const double wb = std::sin(part * angle) / sine;
+  const Vector v{wa * a.x + wb * b.x, wa * a.y + wb * b.y, wa * a.z + wb * b.z};
+  return {static_cast<float>(RadToDeg(std::atan2(v.z, std::hypot(v.x, v.y)))),
+          static_cast<float>(RadToDeg(std::atan2(v.y, v.x)))};
+}
+
 std::vector<Position> GreatCirclePlaces(Position from, Position to, double stepNM) {
-  const double distance = GreatCircleDistance(from.lat, from.lon, to.lat, to.lon);
-  const int steps = std::clamp(static_cast<int>(std::ceil(distance / stepNM)), 1, 1000);
-  const double angle = DegToRad(distance / 60);
-  const double sine = std::sin(angle);
-  if (steps == 1 || std::abs(sine) < 1e-6) return {from, to};
-  struct Vector {
-    double x, y, z;
-  };
-  const auto vector = [](Position p) {
-    const double lat = DegToRad(p.lat);
-    const double lon = DegToRad(p.lon);
-    return Vector{std::cos(lat) * std::cos(lon), std::cos(lat) * std::sin(lon), std::sin(lat)};
-  };
-  const Vector a = vector(from);
-  const Vector b = vector(to);
+  const GreatCircleArc arc(from, to);
+  const int steps = std::clamp(static_cast<int>(std::ceil(arc.DistanceNM() / stepNM)), 1, 1000);
+  if (steps == 1 || !arc.HasDirection()) return {from, to};
   std::vector<Position> places{from};
-  for (int step = 1; step < steps; ++step) {
-    const double part = static_cast<double>(step) / steps;
-    const double wa = std::sin((1 - part) * angle) / sine;
-    const double wb = std::sin(part * angle) / sine;
-    const Vector v{wa * a.x + wb * b.x, wa * a.y + wb * b.y, wa * a.z + wb * b.z};
-    places.push_back({static_cast<float>(RadToDeg(std::atan2(v.z, std::hypot(v.x, v.y)))),
-                      static_cast<float>(RadToDeg(std::atan2(v.y, v.x)))});
-  }
+  for (int step = 1; step < steps; ++step)
+    places.push_back(arc.At(static_cast<double>(step) / steps));
   places.push_back(to);
   return places;
 }

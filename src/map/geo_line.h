@@ -1,6 +1,7 @@
 // Lines between two places on the map.
 #pragma once
 
+#include <cmath>
 #include <span>
 #include <vector>
 
@@ -22,6 +23,32 @@ ClipRect OneWorldPage(const Projection& projection, float margin);
 // Points that are not on the map are passed over.
 std::vector<std::vector<SurfacePoint>> ShapeOnPage(const Projection& projection,
                                                    std::span<const Position> shape, const ClipRect& page);
+
+// The great circle between two places, the shorter way.
+class GreatCircleArc {
+ public:
+  GreatCircleArc(Position from, Position to);
+
+  double DistanceNM() const { return distance; }
+  // False for equal and for opposite places, between which no one arc leads.
+  bool HasDirection() const { return std::abs(sine) >= 1e-6; }
+  // The place at a part of the arc, 0 to 1. Without a direction the nearer end.
+  Position At(double part) const;
+
+ private:
+  struct Vector {
+    double x, y, z;
+  };
+  static Vector VectorOf(Position place);
+
+  Position from;
+  Position to;
+  double distance;
+  double angle;
+  double sine;
+  Vector a;
+  Vector b;
+};
 
 // The places along the great circle between two places, both ends included, no
 // step longer than about stepNM.
