@@ -80,7 +80,8 @@ struct FlightPlan {
   std::int16_t SelectedRow = 0;  // the user's insertion point; 0: none
   bool PlanFiled = false;        // both airports are set, the generators may run
   bool CanSave = false;
-  std::string SidName;  // procedures in use, empty: none
+  bool MissingWaypoints = false;  // read from a file that names what the database lacks: shown, not changed
+  std::string SidName;            // procedures in use, empty: none
   std::string StarName;
   std::vector<ProcedureStep> SidSteps;  // their geometry
   std::vector<ProcedureStep> StarSteps;

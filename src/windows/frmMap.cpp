@@ -37,7 +37,7 @@ std::vector<QRect> FreeScreens() {
 }  // namespace
 
 frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
-    : session(session), messages(messages), pointer(pointer), search(session.database) {
+    : session(session), messages(messages), editor(session, messages, pointer) {
   setObjectName("frmMap");
   setWindowTitle(QString::fromUtf8(messageTitle.data(), messageTitle.size()));
   setMinimumSize(smallestSize);
@@ -66,7 +66,9 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   BuildPanels();
   ConnectCanvas();
   connect(panel, &pnlFlightplan::RowPicked, this, [this] { FollowPointer(); });
-  connect(panel, &pnlFlightplan::DeleteAsked, this, &frmMap::DeleteRow);
+  connect(panel, &pnlFlightplan::DeleteAsked, &editor, &PlanEditor::DeleteRow);
+  connect(&editor, &PlanEditor::Changed, this, &frmMap::PlanChanged);
+  connect(&editor, &PlanEditor::Started, this, &frmMap::ShowNewPlan);
   askPlanFile = [this](const QString& proposal) {
     return QFileDialog::getSaveFileName(this, tr("Save flight plan"), proposal, tr("Flight plans (*.pln)"));
   };

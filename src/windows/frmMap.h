@@ -15,17 +15,14 @@
 #include <functional>
 #include <map>
 
-#include "flightplan/airway_search.h"
-#include "flightplan/plan_context.h"
-#include "flightplan/route_generation.h"
 #include "map/drag_box.h"
 #include "map/draw_map.h"
 #include "map/hover.h"
 #include "map/measure_line.h"
 #include "map/pointer_panel.h"
-#include "platform/pointer_shape.h"
 #include "startup/session.h"
 #include "windows/map_canvas.h"
+#include "windows/plan_editor.h"
 #include "windows/pnlFlightplan.h"
 #include "windows/route_field.h"
 #include "windows/status_strip.h"
@@ -40,8 +37,7 @@ class frmMap : public QMainWindow {
 
   // Opens frmSelectAP; a chosen pair starts a new plan.
   void SelectAirports();
-  // The plan between two rows of the airport table.
-  void StartPlan(int departureRow, int destinationRow);
+  PlanEditor& Editor() { return editor; }
 
   // Asks for the name of a plan file; empty: not saved. The file dialog, unless replaced.
   std::function<QString(const QString& proposal)> askPlanFile;
@@ -126,32 +122,21 @@ class frmMap : public QMainWindow {
   Position PointerPosition() const;
 
   // The plan.
-  void ChangePlan(std::string_view head, const std::function<void()>& change);
-  void GenerateRoute(AirwayNetwork network);
-  void CreateFP();
+  void PlanChanged();
+  void ShowCommandStates();
+  void ShowNewPlan();
   void BuildRouteField(class QToolBar* bar);
   void TakeRouteText();
-  void ShowNewPlan();
-  void UndoPlan();
-  void RedoPlan();
-  void RestorePlan(void (PlanHistory::*step)(FlightPlan&));
-  void DeleteEnrouteWPs();
-  void DeleteRow(int row);
-  void TakeAircraft(const AircraftRec& aircraft);
-  void NewPlan();
   void SavePlan();
-  void PlanChanged();
-  void ShowAbout();
-  PlanContext Context() const;
   QString PlanFolder() const;
+  void ShowAbout();
 
   // There is no link to a simulator yet.
   static constexpr bool connected = false;
 
   Session& session;
   MessageBox& messages;
-  PointerShape& pointer;
-  AirwaySearch search;
+  PlanEditor editor;
   std::vector<MapLayer> layers;
   std::vector<HoverSource> hoverSources;
 

@@ -62,24 +62,24 @@ void frmMap::BuildPlanMenu() {
       "mnuSelectAP", tr("&Airports..."), [this] { SelectAirports(); }, "Ctrl+N"));
   plan->addSeparator();
   plan->addAction(AddCommand(
-      "mnuCreateNavaid", tr("From &navaid to navaid"), [this] { CreateFP(); }, "Ctrl+K"));
+      "mnuCreateNavaid", tr("From &navaid to navaid"), [this] { editor.CreateFP(); }, "Ctrl+K"));
   plan->addAction(AddCommand(
-      "mnuCreateLoAlt", tr("&Low altitude airways"), [this] { GenerateRoute(AirwayNetwork::lowAltitude); },
-      "Ctrl+L"));
+      "mnuCreateLoAlt", tr("&Low altitude airways"),
+      [this] { editor.GenerateRoute(AirwayNetwork::lowAltitude); }, "Ctrl+L"));
   plan->addAction(AddCommand(
-      "mnuCreateHiAlt", tr("&High altitude airways"), [this] { GenerateRoute(AirwayNetwork::highAltitude); },
-      "Ctrl+H"));
+      "mnuCreateHiAlt", tr("&High altitude airways"),
+      [this] { editor.GenerateRoute(AirwayNetwork::highAltitude); }, "Ctrl+H"));
   plan->addAction(AddCommand(
       "mnuRoute", tr("&Route string"), [this] { txtRoute->Edit(); }, "Ctrl+R"));
   plan->addSeparator();
   plan->addAction(AddCommand(
-      "mnuUndo", tr("&Undo"), [this] { UndoPlan(); }, "Ctrl+Z"));
+      "mnuUndo", tr("&Undo"), [this] { editor.Undo(); }, "Ctrl+Z"));
   plan->addAction(AddCommand(
-      "mnuRedo", tr("Re&do"), [this] { RedoPlan(); }, "Ctrl+Y"));
+      "mnuRedo", tr("Re&do"), [this] { editor.Redo(); }, "Ctrl+Y"));
   plan->addAction(
-      AddCommand("mnuDeleteEnrouteWPs", tr("Delete all &waypoints"), [this] { DeleteEnrouteWPs(); }));
+      AddCommand("mnuDeleteEnrouteWPs", tr("Delete all &waypoints"), [this] { editor.DeleteEnrouteWPs(); }));
   plan->addSeparator();
-  plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { NewPlan(); }));
+  plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { editor.NewPlan(); }));
   plan->addAction(AddCommand(
       "mnuSaveFPAs", tr("&Save as..."), [this] { SavePlan(); }, "Ctrl+S"));
   plan->addSeparator();
@@ -97,7 +97,7 @@ void frmMap::BuildAircraftMenu() {
     action->setCheckable(true);
     action->setChecked(aircraft.Number == session.aircraft.Number);
     aircraftGroup->addAction(action);
-    connect(action, &QAction::triggered, this, [this, &aircraft] { TakeAircraft(aircraft); });
+    connect(action, &QAction::triggered, this, [this, &aircraft] { editor.TakeAircraft(aircraft); });
   }
   menu->setEnabled(!session.aircraftList.empty());
 }

@@ -113,7 +113,7 @@ TEST_F(Window, EveryToggleOfTheRibbonHasAPictureOfItsOwnAndATip) {
 TEST_F(Window, TheRibbonFitsASmallScreen) {
   Open();
   window->resize(1366, 768);
-  window->StartPlan(0, 1);
+  window->Editor().StartPlan(0, 1);
   QApplication::processEvents();
   const auto& ribbon = Find<ToggleRibbon>("pnlToggleButtons");
   EXPECT_LT(ribbon.height(), 60) << "one row beside the plan";
@@ -237,7 +237,7 @@ TEST_F(Window, MakesAndSavesAHighAltitudePlan) {
 
 TEST_F(Window, AnUnwritablePlanFileIsToldAndNothingElseHappens) {
   Open();
-  window->StartPlan(0, 1);
+  window->Editor().StartPlan(0, 1);
   window->askPlanFile = [](const QString&) { return QString("/nowhere/at/all.pln"); };
   Press("cmdSaveFPAs");
   ASSERT_EQ(messages.texts.size(), 1u);
@@ -246,7 +246,7 @@ TEST_F(Window, AnUnwritablePlanFileIsToldAndNothingElseHappens) {
 
 TEST_F(Window, ASelectedRowIsWhereTheNextRouteGoes) {
   Open();
-  window->StartPlan(0, 1);
+  window->Editor().StartPlan(0, 1);
   Press("cmdLoAlt");
   auto& table = Find<QTableView>("grdWPTable");
   table.selectRow(2);

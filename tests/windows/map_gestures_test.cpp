@@ -280,7 +280,7 @@ TEST_F(Gestures, TheRightButtonsMenu) {
 
 TEST_F(Gestures, TheKeyboardOpensTheMapsMenuFromEverywhere) {
   Open();
-  window->StartPlan(0, 1);
+  window->Editor().StartPlan(0, 1);
   QApplication::setActiveWindow(window.get());
   Find<QTableView>("grdWPTable").setFocus();
   for (const auto& [key, modifiers] :
@@ -294,7 +294,7 @@ TEST_F(Gestures, TheKeyboardOpensTheMapsMenuFromEverywhere) {
 
 TEST_F(Gestures, TheSelectedWaypointsBearingLine) {
   Open();
-  window->StartPlan(0, 1);
+  window->Editor().StartPlan(0, 1);
   QApplication::processEvents();
   auto& label = Find<QLabel>("lblCourseRadial");
   Find<QTableView>("grdWPTable").selectRow(1);

@@ -41,7 +41,7 @@ TEST_F(PlanChanges, ARouteStringBecomesThePlan) {
 }
 
 TEST_F(PlanChanges, AWrongRouteStringIsToldAndThePlanBeforeComesBack) {
-  Open().StartPlan(0, 1);
+  Open().Editor().StartPlan(0, 1);
   Trigger("mnuCreateLoAlt");
   const std::string before = Codes();
   Type("xxxx a eddb");
@@ -56,7 +56,7 @@ TEST_F(PlanChanges, AWrongRouteStringIsToldAndThePlanBeforeComesBack) {
 TEST_F(PlanChanges, TheNavaidBuilderTakesWhatTheMapShows) {
   Open();
   EXPECT_FALSE(Find<QAction>("mnuCreateNavaid").isEnabled());
-  window->StartPlan(0, 1);
+  window->Editor().StartPlan(0, 1);
   Press("cmdCreateFP");
   EXPECT_EQ(session.plan.RouteMethod, RouteGenerator::navaid);
   for (const char* kind : {"mnuVOR", "mnuNDB", "mnuIntersection"})
@@ -67,7 +67,7 @@ TEST_F(PlanChanges, TheNavaidBuilderTakesWhatTheMapShows) {
 }
 
 TEST_F(PlanChanges, RowsAreDeletedByTheirKey) {
-  Open().StartPlan(0, 1);
+  Open().Editor().StartPlan(0, 1);
   Trigger("mnuCreateLoAlt");
   ASSERT_EQ(Codes(), "EDDA A B C Z EDDB");
   auto& table = Find<QTableView>("grdWPTable");
@@ -82,13 +82,16 @@ TEST_F(PlanChanges, RowsAreDeletedByTheirKey) {
   Trigger("mnuDeleteEnrouteWPs");
   EXPECT_EQ(Codes(), "EDDA EDDB");
   EXPECT_EQ(messages.texts.back(), "Are you sure you want to delete all enroute waypoints?");
-  EXPECT_FALSE(Find<QAction>("mnuDeleteEnrouteWPs").isEnabled());
+  EXPECT_EQ(Route().text(), "");
+  EXPECT_FALSE(Find<QToolButton>("cmdRoute").isEnabled());
+  Trigger("mnuDeleteEnrouteWPs");
+  EXPECT_EQ(messages.texts.back(), "There is no flight plan with waypoints to be deleted!");
 }
 
 TEST_F(PlanChanges, EverythingIsUndoneAndRedone) {
   Open();
   EXPECT_FALSE(Find<QAction>("mnuUndo").isEnabled());
-  window->StartPlan(0, 1);
+  window->Editor().StartPlan(0, 1);
   Trigger("mnuCreateHiAlt");
   const std::string high = Codes();
   auto& table = Find<QTableView>("grdWPTable");
@@ -115,7 +118,7 @@ TEST_F(PlanChanges, AnotherAircraftIsNoChangeToUndo) {
   fast.Number = 4;
   fast.CruiseSpeed = 480;
   session.aircraftList.push_back(fast);
-  Open().StartPlan(0, 1);
+  Open().Editor().StartPlan(0, 1);
   Trigger("mnuCreateLoAlt");
   const int slowMinutes = session.plan.TotalMinutes;
   Trigger("mnuAircraft(4)");

@@ -1,0 +1,105 @@
+#include "windows/plan_editor.h"
+
+#include "base/error_trap.h"
+#include "flightplan/plan_legs.h"
+#include "flightplan/plan_rows.h"
+#include "flightplan/procedures.h"
+#include "flightplan/route_parser.h"
+#include "flightplan/route_string.h"
+
+PlanEditor::PlanEditor(Session& session, MessageBox& messages, PointerShape& pointer, QObject* parent)
+    : QObject(parent), session(session), messages(messages), pointer(pointer), search(session.database) {}
+
+PlanContext PlanEditor::Context() const {
+  return {session.database, session.aircraft, messages, session.settings.FAFDIST};
+}
+
+PlanCommandStates PlanEditor::States() const {
+  return CommandStates(session.plan, session.planHistory, fromRouteString);
+}
+
+void PlanEditor::Trapped(std::string_view head, const std::function<void()>& body) {
+  RunTrapped(head, body, [this](const std::string& report) { session.protocol.WriteError(report); });
+}
+
+void PlanEditor::Tell() {
+  routeText = RouteStringFromPlan(session.plan);
+  session.planHistory.Changed(session.plan);
+  Q_EMIT Changed();
+}
+
+void PlanEditor::Change(std::string_view head, const std::function<void()>& change) {
+  Trapped(head, [&] {
+    const HourglassWhile working(pointer);
+    change();
+  });
+  Trapped(head, [&] { Tell(); });
+}
+
+void PlanEditor::StartPlan(int departureRow, int destinationRow) {
+  constexpr std::string_view head = "frmMap SelectAirports (";
+  fromRouteString = false;
+  Change(head, [&] { SetDepartureAndDestination(session.plan, Context(), departureRow, destinationRow); });
+  if (session.plan.RowCount() >= 2) Q_EMIT Started();
+}
+
+void PlanEditor::CreateFP() {
+  Change("frmMap mnuCreateNavaid (", [&] {
+    const MapSwitches& on = session.switches;
+    const Settings& settings = session.settings;
+    GenerateNavaidRoute(session.plan, Context(), {on.mnuVOR, on.mnuNDB, on.mnuIntersection},
+                        {settings.SECLEN, settings.SECWIDTH, settings.GC != 0});
+  });
+}
+
+void PlanEditor::GenerateRoute(AirwayNetwork network) {
+  Change("frmMap GenerateRoute (", [&] { GenerateAirwayRoute(session.plan, Context(), search, network); });
+}
+
+void PlanEditor::TakeRoute(const std::string& text) {
+  fromRouteString = true;
+  Change("frmMap cmdRoute (", [&] { ParseRoute(session.plan, Context(), text); });
+  if (session.plan.RowCount() >= 2) Q_EMIT Started();
+}
+
+void PlanEditor::DeleteEnrouteWPs() {
+  bool deleted = false;
+  Change("frmMap mnuDeleteEnrouteWPs (", [&] { deleted = DeleteEnrouteWaypoints(session.plan, Context()); });
+  if (!deleted) return;
+  routeText.clear();
+  Q_EMIT Changed();
+}
+
+void PlanEditor::DeleteRow(int row) {
+  Change("frmMap grdWPTable (", [&] { DeleteTableRow(session.plan, Context(), row); });
+}
+
+void PlanEditor::NewPlan() {
+  fromRouteString = false;
+  Change("frmMap mnuNewFP (", [&] { ClearFlightPlan(session.plan); });
+}
+
+void PlanEditor::Undo() {
+  Restore("frmMap mnuUndo (", &PlanHistory::Undo);
+}
+
+void PlanEditor::Redo() {
+  Restore("frmMap mnuRedo (", &PlanHistory::Redo);
+}
+
+void PlanEditor::Restore(std::string_view head, void (PlanHistory::*step)(FlightPlan&)) {
+  Change(head, [&] {
+    (session.planHistory.*step)(session.plan);
+    // The times are those of the aircraft that flies now.
+    SelectAircraft(AircraftRec(session.aircraft), session.aircraft, session.plan);
+    session.planHistory.Adopt(session.plan);
+  });
+}
+
+void PlanEditor::TakeAircraft(const AircraftRec& aircraft) {
+  Change("frmMap mnuAircraft (", [&] {
+    SelectAircraft(AircraftRec(aircraft), session.aircraft, session.plan);
+    session.settings.AIRCRAFT = session.aircraft.Number;
+    session.planHistory.Adopt(session.plan);
+  });
+}

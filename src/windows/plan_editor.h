@@ -1,0 +1,64 @@
+// What the pilot does to the plan in the window: every command is one change,
+// with the hourglass, the error trap and a place in the history, and is told to
+// whoever shows the plan. The work itself is flightplan/'s.
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "flightplan/airway_search.h"
+#include "flightplan/plan_commands.h"
+#include "flightplan/plan_context.h"
+#include "flightplan/route_generation.h"
+#include "platform/pointer_shape.h"
+#include "startup/session.h"
+
+class PlanEditor : public QObject {
+  Q_OBJECT
+
+ public:
+  // session must be loaded; all three outlive the editor.
+  PlanEditor(Session& session, MessageBox& messages, PointerShape& pointer, QObject* parent = nullptr);
+
+  PlanContext Context() const;
+  PlanCommandStates States() const;
+  // The plan as one line for txtRoute, UTF-8; empty after all waypoints were deleted.
+  const std::string& RouteText() const { return routeText; }
+
+  // Runs one change of the plan under the name head. Whatever a change that
+  // fails has left behind is shown, and can be undone.
+  void Change(std::string_view head, const std::function<void()>& change);
+
+  // The plan between two rows of the airport table.
+  void StartPlan(int departureRow, int destinationRow);
+  void CreateFP();
+  void GenerateRoute(AirwayNetwork network);
+  // The plan that text says.
+  void TakeRoute(const std::string& text);
+  void DeleteEnrouteWPs();
+  void DeleteRow(int row);
+  void NewPlan();
+  void Undo();
+  void Redo();
+  void TakeAircraft(const AircraftRec& aircraft);
+
+ Q_SIGNALS:
+  // The plan is another, or has other figures.
+  void Changed();
+  // A plan has begun: the map shows the whole of it.
+  void Started();
+
+ private:
+  void Trapped(std::string_view head, const std::function<void()>& body);
+  void Restore(std::string_view head, void (PlanHistory::*step)(FlightPlan&));
+  void Tell();
+
+  Session& session;
+  MessageBox& messages;
+  PointerShape& pointer;
+  AirwaySearch search;
+  std::string routeText;
+  bool fromRouteString = false;  // as the plan last began
+};
