@@ -38,3 +38,7 @@ PlanWaypoint ObjectRow(const NdbRec& ndb, std::int32_t index) {
 PlanWaypoint ObjectRow(const FixRec& fix, std::int32_t index) {
   return RowOf(fix, "Fix", 0, index);
 }
+
+PlanWaypoint ObjectRow(const UserWaypointRec& waypoint, std::int32_t index) {
+  return RowOf(waypoint, "Uwp", 0, index);
+}

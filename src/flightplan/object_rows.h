@@ -13,3 +13,4 @@ PlanWaypoint ObjectRow(const IntersectionRec& intersection, std::int32_t index);
 PlanWaypoint ObjectRow(const VorRec& vor, std::int32_t index);
 PlanWaypoint ObjectRow(const NdbRec& ndb, std::int32_t index);
 PlanWaypoint ObjectRow(const FixRec& fix, std::int32_t index);
+PlanWaypoint ObjectRow(const UserWaypointRec& waypoint, std::int32_t index);
