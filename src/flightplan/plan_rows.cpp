@@ -81,6 +81,28 @@ void SetAlternate(FlightPlan& plan, const PlanContext& context, int airportRow) 
   plan.AlternateRow = AirportRow(airport, airportRow, RowKind::destination);
 }
 
+void ReplaceArrivalByAlternate(FlightPlan& plan, const PlanContext& context) {
+  if (!plan.AlternateRow || plan.RowCount() < 2) return;
+  plan.rows.back() = *plan.AlternateRow;
+  plan.DestinationIndex = plan.AlternateIndex;
+  plan.DestinationLat = plan.rows.back().Lat;
+  plan.DestinationLon = plan.rows.back().Lon;
+  plan.GlideAngle = 0;  // that of the runway given up
+  plan.AlternateIndex = -1;
+  plan.AlternateRow.reset();
+  RebuildTable(plan, context);
+  RecomputePlan(plan, context);
+}
+
+bool AskReplaceArrivalByAlternate(FlightPlan& plan, const PlanContext& context) {
+  if (!plan.AlternateRow || plan.RowCount() < 2) return false;
+  if (!context.messages.AskYesNo("Do you wish to replace arrival by alternate airport?",
+                                 MessageIcon::question))
+    return false;
+  ReplaceArrivalByAlternate(plan, context);
+  return true;
+}
+
 void InsertWaypoint(FlightPlan& plan, const PlanContext& context, int& afterRow, const PlanWaypoint& row,
                     bool refresh) {
   const int newRow = std::max(afterRow, 0) + 1;

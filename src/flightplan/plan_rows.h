@@ -19,6 +19,13 @@ void SetDepartureAndDestination(FlightPlan& plan, const PlanContext& context, in
 // Throws std::out_of_range if there is no such row.
 void SetAlternate(FlightPlan& plan, const PlanContext& context, int airportRow);
 
+// Flies to the alternate instead: its row takes the destination's place, the
+// plan has no alternate any more, and the rows between the airports stay.
+// Nothing happens while there is no alternate.
+void ReplaceArrivalByAlternate(FlightPlan& plan, const PlanContext& context);
+// The same on the pilot's yes. True if the plan has changed.
+bool AskReplaceArrivalByAlternate(FlightPlan& plan, const PlanContext& context);
+
 // Puts row behind afterRow (below 0 counts as 0) and computes the legs from
 // there to the end; "Fix" rows are renumbered. afterRow comes back on the new
 // row (with refresh, on the row that took it in if it doubled its neighbour).
