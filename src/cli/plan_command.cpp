@@ -11,6 +11,7 @@
 #include "flightplan/procedures.h"
 #include "flightplan/route_generation.h"
 #include "flightplan/route_parser.h"
+#include "flightplan/route_report.h"
 #include "flightplan/route_string.h"
 #include "settings/settings_file.h"
 
@@ -116,7 +117,8 @@ int RunPlan(const CliOptions& options, const PlanRequest& request) {
   if (!aircraft) return exitNotDone;
 
   CliMessages messages;
-  const PlanContext context{world->database, *aircraft, messages, settings.FAFDIST};
+  RouteReport report;
+  const PlanContext context{world->database, *aircraft, messages, settings.FAFDIST, &report};
   FlightPlan plan;
   SetDepartureAndDestination(plan, context, departure, destination);
   if (!request.alternate.empty()) {
@@ -129,6 +131,8 @@ int RunPlan(const CliOptions& options, const PlanRequest& request) {
   bool generated = !routeFirst || MakeRoute(plan, context, request, settings);
   if (!AddProcedures(plan, context, options, request)) return exitNotDone;
   if (!routeFirst) generated = MakeRoute(plan, context, request, settings);
+  for (const std::string& line : report.lines)
+    std::cerr << line << '\n';
   if (options.json) {
     PrintJson(PlanDocument(plan, context, settings.FUEL, messages.ToJson()));
   } else {

@@ -35,6 +35,12 @@ bool IsNode(const NavDatabase& database, int node) {
   return node > 0 && static_cast<std::size_t>(node) < database.intersections.size();
 }
 
+bool IsOnNetwork(const NavDatabase& database, int node, char level) {
+  if (!IsNode(database, node)) return false;
+  const char nodeLevel = AirwayLevel(database.intersections[static_cast<std::size_t>(node)]);
+  return nodeLevel == 'X' || nodeLevel == level;
+}
+
 std::span<const ConnectionRec> NetworkLinks(const NavDatabase& database, int node, char level) {
   if (node < 0 || static_cast<std::size_t>(node) >= database.intersections.size()) return {};
   const IntersectionRec& intersection = database.intersections[static_cast<std::size_t>(node)];

@@ -14,6 +14,9 @@
 // True for a row number that a link may lead to: 1 up, 0 means none.
 bool IsNode(const NavDatabase& database, int node);
 
+// True for a node whose level is the network's ('V' or 'J') or both.
+bool IsOnNetwork(const NavDatabase& database, int node, char level);
+
 // The links of a node on network 'V' (low) or any other (high); none for a row
 // outside the table.
 std::span<const ConnectionRec> NetworkLinks(const NavDatabase& database, int node, char level);

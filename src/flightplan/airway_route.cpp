@@ -9,6 +9,7 @@
 #include "flightplan/object_rows.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
+#include "flightplan/route_report.h"
 #include "navdata/geodesy.h"
 
 namespace {
@@ -27,10 +28,6 @@ const IntersectionRec& Node(const NavDatabase& database, int node) {
   return database.intersections[static_cast<std::size_t>(node)];
 }
 
-bool IsOnNetwork(char nodeLevel, char level) {
-  return nodeLevel == 'X' || nodeLevel == level;
-}
-
 float DistanceToNode(const PlanWaypoint& row, const IntersectionRec& node) {
   return GreatCircleDistance(row.Lat, row.Lon, node.sngLat, node.sngLon);
 }
@@ -39,10 +36,8 @@ float DistanceToNode(const PlanWaypoint& row, const IntersectionRec& node) {
 int NodeAtVor(const PlanWaypoint& row, const NavDatabase& database, char level) {
   int found = -1;
   for (const int node : database.intersectionsByIdent.All(row.Code.View())) {
-    if (IsNode(database, node) && IsOnNetwork(AirwayLevel(Node(database, node)), level) &&
-        DistanceToNode(row, Node(database, node)) < samePlaceDistance) {
+    if (IsOnNetwork(database, node, level) && DistanceToNode(row, Node(database, node)) < samePlaceDistance)
       found = node;
-    }
   }
   return found;
 }
@@ -64,7 +59,7 @@ int EntryWithin(const PlanWaypoint& row, const NavDatabase& database, char level
   int best = -1;
   float bestDifference = 360;
   for (const int node : database.intersectionsByPlace.Near({row.Lat, row.Lon}, radius)) {
-    if (!IsNode(database, node) || !IsOnNetwork(AirwayLevel(Node(database, node)), level)) continue;
+    if (!IsOnNetwork(database, node, level)) continue;
     const IntersectionRec& at = Node(database, node);
     if (!(DistanceToNode(row, at) < radius)) continue;
     const float difference =
@@ -79,7 +74,7 @@ int EntryWithin(const PlanWaypoint& row, const NavDatabase& database, char level
 
 bool HasExitWithin(const PlanWaypoint& row, const NavDatabase& database, char level, float radius) {
   for (const int node : database.intersectionsByPlace.Near({row.Lat, row.Lon}, radius)) {
-    if (!IsNode(database, node) || !IsOnNetwork(AirwayLevel(Node(database, node)), level)) continue;
+    if (!IsOnNetwork(database, node, level)) continue;
     const float distance = DistanceToNode(row, Node(database, node));
     if (distance >= nearestExit && distance < radius) return true;
   }
@@ -107,12 +102,19 @@ class RouteRun {
  public:
   RouteRun(const FlightPlan& plan, const PlanContext& context, AirwaySearch& search, char level,
            int insertionRow)
-      : draft(plan), context(context), search(search), level(level), insertionRow(insertionRow) {}
+      : plan(plan),
+        draft(plan),
+        context(context),
+        search(search),
+        level(level),
+        firstRow(insertionRow),
+        insertionRow(insertionRow) {}
 
   bool Run() {
     for (;;) {
       const int entry = FindEntryFix(draft, context, insertionRow, level, SearchRadius);
       if (entry < 0) return false;
+      tries.push_back({entry, SearchRadius});
       const float exitRadius = FindExitRadius(draft, context, insertionRow, level);
       if (exitRadius < 0) return false;
       GiveWayTo(entry);
@@ -124,6 +126,7 @@ class RouteRun {
         return true;
       }
       if (SearchRadius > lastSearchRadius) {
+        ReportNoWay(context, plan, firstRow, level, tries, exitRadius);
         TellNoRoute(-end);
         return false;
       }
@@ -173,11 +176,14 @@ class RouteRun {
         MessageIcon::exclamation);
   }
 
+  const FlightPlan& plan;
   FlightPlan draft;
   const PlanContext& context;
   AirwaySearch& search;
   char level;
+  int firstRow;
   int insertionRow;
+  std::vector<AirwayTry> tries;
   float SearchRadius = firstSearchRadius;
   bool skipFirst = false;
   std::optional<AltitudeWarning> warning;
@@ -193,9 +199,8 @@ int FindEntryFix(const FlightPlan& plan, const PlanContext& context, int inserti
     const int node = NodeAtVor(row, database, level);
     if (node >= 0) return node;
   }
-  if (row.Sym == "Int" && IsNode(database, row.DbIndex) && IsOnNetwork(row.Level.Raw().front(), level)) {
-    return row.DbIndex;
-  }
+  const bool rowOnNetwork = row.Level == "X" || row.Level.Raw().front() == level;
+  if (row.Sym == "Int" && IsNode(database, row.DbIndex) && rowOnNetwork) return row.DbIndex;
   const PlanWaypoint& next = plan.Row(insertionRow + 1);
   const float course = GreatCircleCourse(row.Lat, row.Lon, next.Lat, next.Lon);
   do {
@@ -203,15 +208,18 @@ int FindEntryFix(const FlightPlan& plan, const PlanContext& context, int inserti
     if (node >= 0) return node;
     SearchRadius += searchRadiusStep;
   } while (SearchRadius <= lastSearchRadius);
+  ReportNoEntry(context, plan, insertionRow, level, SearchRadius - searchRadiusStep, entrySector);
   context.messages.Show("No fix found within 300nm of insertion waypoint!", MessageIcon::exclamation);
   return -1;
 }
 
 float FindExitRadius(const FlightPlan& plan, const PlanContext& context, int insertionRow, char level) {
   const PlanWaypoint& destination = plan.Row(insertionRow + 1);
-  for (float radius = firstExitRadius; radius < lastExitRadius; radius += exitRadiusStep) {
+  float radius = firstExitRadius;
+  for (; radius < lastExitRadius; radius += exitRadiusStep) {
     if (HasExitWithin(destination, context.database, level, radius)) return radius;
   }
+  ReportNoExit(context, plan, insertionRow, level, nearestExit, radius - exitRadiusStep);
   context.messages.Show("No fix found within 500nm of destination waypoint!", MessageIcon::exclamation);
   return -1;
 }

@@ -5,10 +5,12 @@
 #include <optional>
 #include <stdexcept>
 
+#include "base/code_page.h"
 #include "base/numbers.h"
 #include "flightplan/object_rows.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
+#include "flightplan/route_report.h"
 #include "navdata/geodesy.h"
 
 namespace {
@@ -35,6 +37,8 @@ class NavaidRun {
         kinds(kinds),
         sector(sector),
         insertionRow(insertionRow),
+        firstRow(insertionRow),
+        title(LegTitle(plan, insertionRow, "Navaid route")),
         current(PlaceOf(plan.Row(insertionRow))),
         target(PlaceOf(plan.Row(insertionRow + 1))),
         directCourse(Course(current, target)),
@@ -56,13 +60,24 @@ class NavaidRun {
       }
       candidates.clear();
       if (directDistance < static_cast<float>(radius) && directDistance > longCrossing) {
+        TellReport("nothing to choose from up to " + std::to_string(radius) + " NM of " + CurrentName() +
+                   " within " + std::to_string(sector.SectorWidth) + "° of the course " +
+                   FormatPicture(directCourse, "000") + "°");
         context.messages.Show(tooFewText, MessageIcon::exclamation);
         return false;
       }
       const float left = Distance(current, target);
-      if (std::floor(left) > bestDistance) return true;
+      if (std::floor(left) > bestDistance) {
+        TellReport("ended at " + CurrentName() + ", which is farther from the goal (" +
+                   FormatPicture(left, "##0") + " NM) than the point before it");
+        return true;
+      }
       bestDistance = std::floor(left);
-      if (left < static_cast<float>(radius)) return true;
+      if (left < static_cast<float>(radius)) {
+        if (insertionRow == firstRow)
+          TellReport("none taken, the goal lies within the radius of " + std::to_string(radius) + " NM");
+        return true;
+      }
     }
   }
 
@@ -70,6 +85,12 @@ class NavaidRun {
   static Position PlaceOf(const PlanWaypoint& row) { return {row.Lat, row.Lon}; }
   static float Distance(Position a, Position b) { return GreatCircleDistance(a.lat, a.lon, b.lat, b.lon); }
   static float Course(Position a, Position b) { return GreatCircleCourse(a.lat, a.lon, b.lat, b.lon); }
+
+  std::string CurrentName() const { return CodePageToUtf8(plan.Row(insertionRow).Code.View()); }
+
+  void TellReport(const std::string& text) const {
+    if (context.report != nullptr) Report(context, title + text);
+  }
 
   bool RunsDown() const { return directCourse > 90 && directCourse < 270; }
 
@@ -160,6 +181,8 @@ class NavaidRun {
   const NavaidKinds kinds;
   const NavaidSector sector;
   int& insertionRow;
+  const int firstRow;
+  const std::string title;  // of the report
   Position current;
   const Position target;
   float directCourse;

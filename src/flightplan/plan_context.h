@@ -7,9 +7,12 @@
 #include "navdata/nav_database.h"
 #include "platform/message_box.h"
 
+struct RouteReport;
+
 struct PlanContext {
   const NavDatabase& database;
   const AircraftRec& aircraft;
   MessageBox& messages;
-  double FAFDIST = 8.5;  // NM from the final fix to the threshold (setting FAFDIST)
+  double FAFDIST = 8.5;           // NM from the final fix to the threshold (setting FAFDIST)
+  RouteReport* report = nullptr;  // why a route was not found, where somebody asks (route_report.h)
 };

@@ -11,6 +11,7 @@
 #include "flightplan/object_rows.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
+#include "flightplan/route_report.h"
 #include "flightplan/route_string.h"
 #include "navdata/geodesy.h"
 
@@ -167,7 +168,10 @@ void InsertFixes(FlightPlan& plan, const PlanContext& context, const std::vector
   int insertionRow = 0;
   for (std::size_t i = 1; i + 1 < words.size(); ++i) {
     std::optional<PlanWaypoint> row = NearestObject(context.database, words[i], current);
-    if (!row) continue;
+    if (!row) {
+      ReportPassedOver(context, words[i], i + 1);
+      continue;
+    }
     current = {row->Lat, row->Lon};
     const bool mayJoin = row->Sym == "Int" && i + 2 < words.size();
     if (mayJoin) row->AirwayLink = NetworkOf(context.database, row->DbIndex, words[i + 1]);
@@ -195,6 +199,7 @@ bool JoinRows(FlightPlan& plan, const PlanContext& context) {
     if (toNode >= 0 && (ExpandAirway(plan, context, fromNode, toNode, airway, network, i) ||
                         ExpandAirway(plan, context, fromNode, toNode, airway, other, i)))
       continue;
+    ReportNotOnAirway(context, next, airway, fromNode, toNode);
     context.messages.Show(CodePageToUtf8(next.Code.Text() + " is not on airway " + airway) +
                               "\nFlightplan cannot be completed!",
                           MessageIcon::exclamation);

@@ -11,7 +11,7 @@ PlanEditor::PlanEditor(Session& session, MessageBox& messages, PointerShape& poi
     : QObject(parent), session(session), messages(messages), pointer(pointer), search(session.database) {}
 
 PlanContext PlanEditor::Context() const {
-  return {session.database, session.aircraft, messages, session.settings.FAFDIST};
+  return {session.database, session.aircraft, messages, session.settings.FAFDIST, &report};
 }
 
 PlanCommandStates PlanEditor::States() const {
@@ -33,6 +33,9 @@ void PlanEditor::Change(std::string_view head, const std::function<void()>& chan
     const HourglassWhile working(pointer);
     change();
   });
+  for (const std::string& line : report.lines)
+    session.protocol.WriteProtocol(line);
+  report.lines.clear();
   Trapped(head, [&] { Tell(); });
 }
 

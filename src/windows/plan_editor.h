@@ -12,6 +12,7 @@
 #include "flightplan/plan_commands.h"
 #include "flightplan/plan_context.h"
 #include "flightplan/route_generation.h"
+#include "flightplan/route_report.h"
 #include "platform/pointer_shape.h"
 #include "startup/session.h"
 
@@ -59,6 +60,7 @@ class PlanEditor : public QObject {
   MessageBox& messages;
   PointerShape& pointer;
   AirwaySearch search;
+  mutable RouteReport report;  // of the change that runs; goes into the protocol log
   std::string routeText;
   bool fromRouteString = false;  // as the plan last began
 };
