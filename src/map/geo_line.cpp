@@ -21,6 +21,15 @@ void AppendMapLine(const Projection& projection, Position from, Position to,
   lines.push_back({{a.x + turn, a.y}, b});
 }
 
+double DistanceToLine(const SurfaceLine& line, double x, double y) {
+  const double alongX = static_cast<double>(line.to.x) - line.from.x;
+  const double alongY = static_cast<double>(line.to.y) - line.from.y;
+  const double square = alongX * alongX + alongY * alongY;
+  const double part = square > 0 ? ((x - line.from.x) * alongX + (y - line.from.y) * alongY) / square : 0;
+  const double nearest = std::clamp(part, 0.0, 1.0);
+  return std::hypot(line.from.x + nearest * alongX - x, line.from.y + nearest * alongY - y);
+}
+
 ClipRect OneWorldPage(const Projection& projection, float margin) {
   const auto half = static_cast<float>((projection.UnwrappedX(180) - projection.UnwrappedX(-180)) / 2);
   const float middle = mapScaleWidth / 2.0F;

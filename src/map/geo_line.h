@@ -14,6 +14,9 @@
 // back at the other, two lines are appended.
 void AppendMapLine(const Projection& projection, Position from, Position to, std::vector<SurfaceLine>& lines);
 
+// How far a point of the page is from the nearest point of a line, in units.
+double DistanceToLine(const SurfaceLine& line, double x, double y);
+
 // The page grown by margin units on each side, but never more than one turn of
 // the world: what is drawn for a turn beside it stays off.
 ClipRect OneWorldPage(const Projection& projection, float margin);

@@ -101,15 +101,6 @@ void AddWaypoints(ObjectList& list) {
   }
 }
 
-double DistanceToLine(const SurfaceLine& line, double x, double y) {
-  const double alongX = static_cast<double>(line.to.x) - line.from.x;
-  const double alongY = static_cast<double>(line.to.y) - line.from.y;
-  const double square = alongX * alongX + alongY * alongY;
-  const double part = square > 0 ? ((x - line.from.x) * alongX + (y - line.from.y) * alongY) / square : 0;
-  const double nearest = std::clamp(part, 0.0, 1.0);
-  return std::hypot(line.from.x + nearest * alongX - x, line.from.y + nearest * alongY - y);
-}
-
 void AddAirways(ObjectList& list, SelectedObject type, std::string_view kind,
                 const std::vector<AirwaySegmentRec>& segments, const PlaceIndex& byEnds) {
   const HoverQuestion& question = list.question;

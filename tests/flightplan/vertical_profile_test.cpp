@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "flightplan/cruise_level.h"
 #include "flightplan/plan_legs.h"
+#include "flightplan/profile_picture.h"
 #include "tests/flightplan/drawn_world.h"
+#include "tests/map/recording_surface.h"
 
 namespace {
 
@@ -42,7 +45,7 @@ TEST(FlightProfile, ClimbsStaysLevelAndComesDownByTheModel) {
     const std::string name = std::to_string(c.from) + " to " + std::to_string(c.to);
     const double level = c.level * 100.0;
     const FlightProfile profile = ComputeFlightProfile(drawn.plan, drawn.context);
-    ASSERT_FALSE(profile.points.empty()) << name;
+    ASSERT_FALSE(profile.points.empty()) << name << ": " << profile.note;
     EXPECT_TRUE(profile.levelReached) << name;
     EXPECT_EQ(profile.note, "") << name;
     ExpectAscending(profile, name);
@@ -163,6 +166,93 @@ TEST(FlightProfile, KnowsEachPlaceOnTheRoute) {
   const ProfilePoint level = PointAt(profile, 500);
   EXPECT_EQ(level.altitude, 10000);
   EXPECT_NEAR(level.minutes, 10 + (500 - profile.TopOfClimb().distance) / 240 * 60, 1e-6);
+}
+
+// ---- the picture
+
+struct Picture {
+  explicit Picture(const FlightPlan& plan, const PlanContext& context, float width = 11325,
+                   std::optional<double> marked = {})
+      : profile(ComputeFlightProfile(plan, context)), scale(profile, plan, {100, 3000, width, 1000}, 7) {
+    DrawProfile(profile, plan, scale, marked, surface);
+  }
+  bool Says(const std::string& text) const {
+    const auto texts = surface.Texts();
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+  }
+
+  FlightProfile profile;
+  ProfileScale scale;
+  RecordingSurface surface;
+};
+
+TEST(ProfilePicture, StaysInItsFrameAndNamesTheTops) {
+  DrawnPlan drawn("airport EDDA 0 0 0\nairport EDDB 0 10 0");
+  for (int i = 1; i < 100; ++i)
+    drawn.Add("Int", "W" + std::to_string(i), 0, static_cast<float>(i) / 10);
+  drawn.plan.CruiseFL = 250;
+  const Picture picture(drawn.plan, drawn.context, 11325, 303);
+  for (const char* text : {"TOC", "75 NM  00:25", "TOD", "77 NM to go  02:17", "EDDA", "EDDB", "FL 200"})
+    EXPECT_TRUE(picture.Says(text)) << text;
+  EXPECT_TRUE(picture.Says(MarkText(PointAt(picture.profile, 303)) + "   3 NM to W51"));
+  for (const auto& one : picture.surface.drawn)
+    for (const SurfacePoint point : one.points) {
+      if (one.what == "circle") continue;
+      EXPECT_TRUE(point.x >= 100 && point.x <= 11425 && point.y >= 3000 && point.y <= 4000) << one.what;
+    }
+  // Codes are printed where the one before leaves room.
+  std::vector<std::pair<float, float>> codes;
+  for (const auto& one : picture.surface.drawn)
+    if (one.what == "print" && one.y > picture.scale.Bottom())
+      codes.emplace_back(one.x, one.x + static_cast<float>(one.text.size()) * 60);
+  std::sort(codes.begin(), codes.end());
+  EXPECT_GT(codes.size(), 10u);
+  EXPECT_LT(codes.size(), 60u);
+  for (std::size_t i = 1; i < codes.size(); ++i)
+    EXPECT_GT(codes[i].first, codes[i - 1].second);
+  for (const double distance : {0.0, 100.0, 600.0})
+    EXPECT_NEAR(picture.scale.DistanceAt(picture.scale.XOf(distance)), distance, 0.1);
+  EXPECT_EQ(picture.scale.DistanceAt(-1e6F), 0);
+  EXPECT_EQ(picture.scale.DistanceAt(1e6F), picture.profile.Length());
+}
+
+TEST(ProfilePicture, WarnsOfAirwaysAboveTheLevel) {
+  DrawnPlan drawn("airport EDDA 0 0 0\nairport EDDB 0 10 0");
+  const auto add = [&](const char* airway, int minimum, float lon) {
+    PlanWaypoint& row = drawn.Add("Int", airway, 0, lon);
+    row.Airway = std::string_view(airway);
+    row.AirwayMinAlt = minimum;
+  };
+  add("V1", 6000, 3);
+  add("V2", 10000, 5);
+  add("V3", 12000, 7);
+  add("V4", -1, 8);
+  drawn.plan.CruiseFL = 100;
+  const Picture picture(drawn.plan, drawn.context);
+  const auto stepAt = [&](double from, int minimum) -> std::int32_t {
+    for (const auto& one : picture.surface.drawn)
+      if (one.what == "line" && std::abs(one.x - picture.scale.XOf(from)) < 1 &&
+          std::abs(one.y - picture.scale.YOf(minimum)) < 1)
+        return one.color;
+    return -1;
+  };
+  const std::int32_t quiet = stepAt(0, 6000);
+  const std::int32_t fault = stepAt(300, 12000);
+  EXPECT_GE(quiet, 0);
+  EXPECT_GE(fault, 0);
+  EXPECT_NE(quiet, fault);
+  EXPECT_EQ(stepAt(180, 10000), quiet) << "at the level is high enough";
+}
+
+TEST(ProfilePicture, WithoutAFlightIsItsNote) {
+  DrawnPlan drawn("airport EDDA 0 0 5434\nairport EDDB 0 10 0");
+  drawn.plan.CruiseFL = 40;
+  const Picture none(drawn.plan, drawn.context, 11325, 10);
+  EXPECT_EQ(none.surface.Texts(), std::vector<std::string>{"The cruise level lies below the airports"});
+  drawn.plan.CruiseFL = 990;
+  const Picture peak(drawn.plan, drawn.context, 4000);
+  EXPECT_TRUE(peak.Says("TOC, TOD"));
+  EXPECT_TRUE(peak.Says(peak.profile.note));
 }
 
 }  // namespace
