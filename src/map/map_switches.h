@@ -21,7 +21,12 @@ struct MapSwitches {
   bool mnuUserWP = true;
   bool mnuSunrise = false;  // sun times in the box of an airport
   bool mnuAutozoom = false;
-  bool mnuAoM = true;  // the map follows the aircraft
+  bool mnuAoM = true;          // the map follows the aircraft
+  bool profileChosen = false;  // the pilot has switched the vertical picture himself
+  bool mnuProfile = true;      // the vertical picture
+
+  bool mnuDisplaySid = true;   // the plan's departure and arrival; not stored
+  bool mnuDisplayStar = true;
 
   bool btnIcao = true;   // codes
   bool btnName = false;  // names

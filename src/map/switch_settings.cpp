@@ -8,10 +8,11 @@ using Flag = bool MapSwitches::*;
 using Flags = MapSwitches;
 
 // In the order of their bits.
-constexpr std::array<Flag, 14> menuFlags = {
-    &Flags::mnuCoastlines, &Flags::mnuMSA,          &Flags::mnuAirport,  &Flags::mnuILS, &Flags::mnuVOR,
-    &Flags::mnuNDB,        &Flags::mnuIntersection, &Flags::mnuVictor,   &Flags::mnuJet, &Flags::mnuGPSFix,
-    &Flags::mnuUserWP,     &Flags::mnuSunrise,      &Flags::mnuAutozoom, &Flags::mnuAoM};
+constexpr std::array<Flag, 16> menuFlags = {
+    &Flags::mnuCoastlines, &Flags::mnuMSA,    &Flags::mnuAirport,      &Flags::mnuILS,
+    &Flags::mnuVOR,        &Flags::mnuNDB,    &Flags::mnuIntersection, &Flags::mnuVictor,
+    &Flags::mnuJet,        &Flags::mnuGPSFix, &Flags::mnuUserWP,       &Flags::mnuSunrise,
+    &Flags::mnuAutozoom,   &Flags::mnuAoM,    &Flags::profileChosen,   &Flags::mnuProfile};
 constexpr std::array<Flag, 3> buttonFlags = {&Flags::btnIcao, &Flags::btnName, &Flags::btnFreq};
 constexpr std::array<Flag, 3> airspaceFlags = {&Flags::mnuCtrz, &Flags::mnuAir1, &Flags::mnuAir2};
 

@@ -52,9 +52,14 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   pnlToggleButtons = new ToggleRibbon(Map);
   lblMeasure = AddMapLabel("lblMeasure");
   lblCourseRadial = AddMapLabel("lblCourseRadial");
+  lblPlanDrag = AddMapLabel("lblPlanDrag");
   panel = new pnlFlightplan(session.plan, middle);
   lblMapStatus = new StatusStrip(middle);
-  columns->addWidget(Map, 1);
+  auto* mapColumn = new QVBoxLayout;
+  mapColumn->setSpacing(0);
+  mapColumn->addWidget(Map, 1);
+  BuildProfile(mapColumn);
+  columns->addLayout(mapColumn, 1);
   columns->addWidget(panel);
   rows->addLayout(columns, 1);
   rows->addWidget(lblMapStatus);
@@ -189,6 +194,7 @@ void frmMap::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   if (!session.view.MapReady || isMinimized()) return;
   Trapped("frmMap Resize (", [&] {
+    ProposeProfile();
     session.view.MapSizeFactor = static_cast<float>(width() * unitsPerPixel / mapSizeUnits);
     // Stretching the window ends the automatic zoom, opening it does not.
     SetZoom(session.view.ZoomIndex, opened);

@@ -4,7 +4,8 @@
 //
 // frmMap.cpp has the window and the view, frmMap_menus.cpp the menus, bars and
 // keys, frmMap_panels.cpp the status panels, frmMap_gestures.cpp what the
-// pointer does on the map, frmMap_plan.cpp the plan.
+// pointer does on the map, frmMap_plan_gestures.cpp what it does there to the
+// plan, frmMap_plan.cpp the plan, frmMap_profile.cpp its vertical picture.
 #pragma once
 
 #include <QAction>
@@ -15,6 +16,7 @@
 #include <functional>
 #include <map>
 
+#include "flightplan/plan_drag.h"
 #include "map/drag_box.h"
 #include "map/draw_map.h"
 #include "map/hover.h"
@@ -25,6 +27,7 @@
 #include "windows/plan_editor.h"
 #include "windows/pnlFlightplan.h"
 #include "windows/route_field.h"
+#include "windows/profile_strip.h"
 #include "windows/status_strip.h"
 #include "windows/toggle_ribbon.h"
 
@@ -97,7 +100,7 @@ class frmMap : public QMainWindow {
 
   // What the pointer does on the map.
   QLabel* AddMapLabel(const QString& name);
-  void ButtonDown(float x, float y);
+  void ButtonDown(float x, float y, Qt::KeyboardModifiers modifiers);
   void ButtonUp(float x, float y, bool shift);
   void PointerMoved(float x, float y);
   void PointerLeft();
@@ -122,6 +125,30 @@ class frmMap : public QMainWindow {
   Position PointerPosition() const;
 
   // The plan.
+  // What it does there to the plan. X, y: the place on the map.
+  double Pixels(double count) const;  // in map units
+  void BeginPlanPress(float x, float y, Qt::KeyboardModifiers modifiers);
+  void FollowPlanPress();
+  // True if the press was for the plan.
+  bool EndPlanPress(float x, float y);
+  void GiveUpPlanPress();
+  void TakeDrag(const PlanDrag& pulled);
+  void ShowPlanPointer();
+  void PlacePlanLabel();
+  void SetInserting(bool on);
+  void InsertAt(float x, float y);
+  void InsertManual(float x, float y);
+  void InsertRow(const PlanWaypoint& row);
+  void SelectPlanRow(int row);
+  void AddPlanItems(QMenu& menu, float x, float y);
+
+  // The vertical picture.
+  void BuildProfile(class QBoxLayout* below);
+  void ShowProfile();
+  void ProposeProfile();
+  void CentreOnMark();
+  void DrawProfileMark(DrawSurface& surface);
+
   void PlanChanged();
   void ShowCommandStates();
   void ShowNewPlan();
@@ -149,6 +176,8 @@ class frmMap : public QMainWindow {
   RouteField* txtRoute;
   std::map<QString, QAction*> actions;  // by menu name
   QActionGroup* aircraftGroup;
+  QLabel* lblPlanDrag;
+  ProfileStrip* profileStrip;
   QTimer tmrClock;
   QTimer tmrMousePos;
   QTimer tmrModeName;  // runs while panel 5 shows its mode's name
@@ -162,6 +191,8 @@ class frmMap : public QMainWindow {
   bool hoverSearched = false;  // since the pointer came to rest
   bool overlayShown = false;   // something hung on the pointer when it was last followed
   bool pointerOnMap = false;
+  PlanDrag drag;
+  bool insertOnClick = false;  // the button went down to insert a waypoint, if it does not move
   bool pointerSeen = false;  // it has been on the map
   SurfacePoint pointerAt;    // last known, map units
   CursorPanelMode cursorPanelMode = CursorPanelMode::coordinates;

@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 
+#include "flightplan/plan_layers.h"
 #include "map/map_objects_near.h"
 #include "map/map_overlays.h"
 #include "windows/frmMap.h"
@@ -16,18 +17,6 @@ namespace {
 // the upper left corner of what is seen.
 constexpr float ribbonWidth = 13500;
 constexpr float ribbonHeight = 500;
-constexpr int labelOffset = 14;  // pixels between a place and its label
-
-Position WaypointPosition(const PlanWaypoint& waypoint) {
-  return {waypoint.Lat, waypoint.Lon};
-}
-
-// Kept within what is seen of the map.
-void PlaceLabel(QLabel& label, QPoint corner, const QRect& seen) {
-  const int right = std::max(seen.left(), seen.right() + 1 - label.width());
-  const int bottom = std::max(seen.top(), seen.bottom() + 1 - label.height());
-  label.move(std::clamp(corner.x(), seen.left(), right), std::clamp(corner.y(), seen.top(), bottom));
-}
 
 }  // namespace
 
@@ -66,7 +55,7 @@ QLabel* frmMap::AddMapLabel(const QString& name) {
 
 // ---- button and pointer
 
-void frmMap::ButtonDown(float x, float y) {
+void frmMap::ButtonDown(float x, float y, Qt::KeyboardModifiers modifiers) {
   Trapped("frmMap Map_MouseDown (", [&] {
     CloseHover();
     pointerAt = {x, y};
@@ -76,6 +65,7 @@ void frmMap::ButtonDown(float x, float y) {
     } else if (actions["mnuMeasure"]->isChecked()) {
       measure.Begin(session.view, x, y);
     } else {
+      BeginPlanPress(x, y, modifiers);
       box.Begin(x, y);
     }
     FollowPointer();
@@ -91,7 +81,9 @@ void frmMap::PointerMoved(float x, float y) {
     ShowRibbon(x - corner.x < ribbonWidth && y - corner.y < ribbonHeight);
     if (moved) CloseHover();
     measure.MoveTo(session.view, x, y);
+    FollowPlanPress();
     if (box.MoveTo(x, y)) EndAutozoom();
+    ShowPlanPointer();
     FollowPointer();
   });
 }
@@ -100,7 +92,8 @@ void frmMap::ButtonUp(float x, float y, bool shift) {
   Trapped("frmMap Map_MouseUp (", [&] {
     measure.Finish();
     box.MoveTo(x, y);
-    if (box.Finish() && !shift) TakeBox(box.BoxX1, box.BoxY1, box.BoxX2, box.BoxY2);
+    const bool boxed = box.Finish();
+    if (!EndPlanPress(x, y) && boxed && !shift) TakeBox(box.BoxX1, box.BoxY1, box.BoxX2, box.BoxY2);
     FollowPointer();
   });
 }
@@ -126,6 +119,8 @@ void frmMap::TakeBox(float x1, float y1, float x2, float y2) {
 
 void frmMap::GiveUpGestures() {
   box.Finish();
+  GiveUpPlanPress();
+  actions["mnuInsertWP"]->setChecked(false);
   CloseHover();
   hoverSearched = true;  // until the pointer moves
   actions["mnuMeasure"]->setChecked(false);
@@ -163,7 +158,7 @@ int frmMap::LegPickIndex() const {
 std::optional<PickedLeg> frmMap::Leg() const {
   const int row = LegPickIndex();
   if (row < 1) return std::nullopt;
-  return PickedLeg{WaypointPosition(session.plan.Row(row - 1)), WaypointPosition(session.plan.Row(row)),
+  return PickedLeg{PlaceOf(session.plan.Row(row - 1)), PlaceOf(session.plan.Row(row)),
                    actions.at("mnuInbound")->isChecked()};
 }
 
@@ -171,7 +166,7 @@ std::optional<PickedLeg> frmMap::Leg() const {
 void frmMap::FollowPointer() {
   ShowPointer();
   PlaceMapLabels();
-  const bool shown = measure.visible || box.BoxActive || LegPickIndex() >= 1;
+  const bool shown = measure.visible || box.BoxActive || drag.moving || LegPickIndex() >= 1;
   if (shown || overlayShown) Map->update();
   overlayShown = shown;
 }
@@ -181,7 +176,7 @@ void frmMap::PlaceMapLabels() {
     lblMeasure->setText(QString::fromStdString(measure.Caption(session.view.MapMagVar)));
     lblMeasure->adjustSize();
     const QPoint place = Map->ToPixel(measure.label.x, measure.label.y);
-    PlaceLabel(*lblMeasure, place + QPoint(labelOffset, labelOffset), Map->Seen());
+    Map->PlaceLabel(*lblMeasure, place, Qt::BottomRightCorner);
   }
   lblMeasure->setVisible(measure.visible);
   const auto leg = Leg();
@@ -191,11 +186,10 @@ void frmMap::PlaceMapLabels() {
         QString::fromStdString(LegPickText(*leg, PointerPosition(), session.view.MapMagVar)));
     lblCourseRadial->adjustSize();
     // Left of and above the pointer: the box of what lies there opens on the other side.
-    const QPoint place = Map->ToPixel(pointerAt.x, pointerAt.y);
-    const QPoint size(lblCourseRadial->width(), lblCourseRadial->height());
-    PlaceLabel(*lblCourseRadial, place - QPoint(labelOffset, labelOffset) - size, Map->Seen());
+    Map->PlaceLabel(*lblCourseRadial, Map->ToPixel(pointerAt.x, pointerAt.y), Qt::TopLeftCorner);
   }
   lblCourseRadial->setVisible(legShown);
+  PlacePlanLabel();
 }
 
 void frmMap::DrawOverlay(DrawSurface& surface) {
@@ -203,6 +197,8 @@ void frmMap::DrawOverlay(DrawSurface& surface) {
   const auto leg = Leg();
   if (leg && pointerOnMap)
     DrawBearingLine(LegPickAnchor(*leg), pointerAt.x, pointerAt.y, {}, session.view, colors, surface);
+  DrawPlanDrag(drag, session.plan, session.view, colors, surface);
+  DrawProfileMark(surface);
   DrawMeasureLine(measure, session.view, colors, surface, false);
   DrawDragBox(box, colors, surface);
 }
@@ -230,7 +226,7 @@ HoverQuestion frmMap::Question(float x, float y) const {
 }
 
 void frmMap::MousePosTick() {
-  if (!pointerOnMap || box.BoxActive || measure.MeasureActive) return rest.Forget();
+  if (!pointerOnMap || box.BoxActive || drag.moving || measure.MeasureActive) return rest.Forget();
   if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr)
     return CloseHover();
   Trapped("frmMap tmrMousePos (", [&] {
@@ -255,6 +251,7 @@ void frmMap::OpenMapMenu(float x, float y, const QPoint& global) {
   if (QApplication::activePopupWidget() != nullptr) return;
   Trapped("frmMap Map_MouseDown (", [&] {
     CloseHover();
+    if (actions["mnuInsertWP"]->isChecked()) return InsertManual(x, y);
     auto* menu = new QMenu(this);
     menu->setObjectName("mnuMapContext");
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -266,6 +263,7 @@ void frmMap::OpenMapMenu(float x, float y, const QPoint& global) {
     add("mnuCentreHere", tr("&Centre here"),
         [this, x, y] { Trapped("frmMap mnuCentreHere (", [&] { TakeBox(x, y, x, y); }); });
     add("mnuMeasureFrom", tr("&Measure from here"), [this, x, y] { MeasureFrom(x, y); });
+    AddPlanItems(*menu, x, y);
     AddObjects(*menu, x, y);
     menu->addSeparator();
     menu->addAction(actions["mnuClearHighlight"]);

@@ -72,6 +72,9 @@ void frmMap::BuildPlanMenu() {
   plan->addAction(AddCommand(
       "mnuRoute", tr("&Route string"), [this] { txtRoute->Edit(); }, "Ctrl+R"));
   plan->addSeparator();
+  plan->addAction(AddToggle(
+      "mnuInsertWP", tr("&Insert waypoints on the map"), false, [this](bool on) { SetInserting(on); },
+      "Ctrl+I"));
   plan->addAction(AddCommand(
       "mnuUndo", tr("&Undo"), [this] { editor.Undo(); }, "Ctrl+Z"));
   plan->addAction(AddCommand(
@@ -133,6 +136,15 @@ void frmMap::BuildViewMenu() {
 void frmMap::BuildPanelsMenu(QMenu* view) {
   view->addAction(AddToggle(
       "mnuShowPlan", tr("Fligh&t plan panel"), true, [this](bool) { PlanChanged(); }, "F4"));
+  QAction* profile = AddToggle(
+      "mnuProfile", tr("&Vertical picture"), session.switches.mnuProfile,
+      [this](bool on) {
+        session.switches.mnuProfile = on;
+        ShowProfile();
+      },
+      "F5");
+  connect(profile, &QAction::triggered, this, [this] { session.switches.profileChosen = true; });
+  view->addAction(profile);
   QMenu* panels = view->addMenu(tr("Status pan&els"));
   panels->addAction(AddToggle("mnuLocalTime", tr("&Local time"), false, [this](bool on) {
     clockUtc = !on;
@@ -288,7 +300,9 @@ void frmMap::BuildRibbon() {
        {"mnuName", "btnName", "names"},
        {"mnuFreq", "btnFreq", "frequencies"},
        {"mnuSunrise", "rbnSunrise", "sun"}},
-      {{"mnuMeasure", "rbnMeasure", "measure"}, {"mnuBearingLine", "rbnBearingLine", "bearing_line"}},
+      {{"mnuInsertWP", "rbnInsertWP", "insert_waypoint"},
+       {"mnuMeasure", "rbnMeasure", "measure"},
+       {"mnuBearingLine", "rbnBearingLine", "bearing_line"}},
   };
   for (const auto& group : groups) {
     for (const Toggle& toggle : group)

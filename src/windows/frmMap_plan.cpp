@@ -20,6 +20,7 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuCreateHiAlt", &PlanCommandStates::createRoute},
     {"mnuSaveFPAs", &PlanCommandStates::save},
     {"mnuUndo", &PlanCommandStates::undo},
+    {"mnuInsertWP", &PlanCommandStates::editRows},
     {"mnuRedo", &PlanCommandStates::redo},
 };
 
@@ -79,6 +80,8 @@ void frmMap::SavePlan() {
     const std::string text = WritePlan(session.plan, session.database, PlanFormat::FS);
     const QDir folder(PlanFolder());
     if (!folder.exists()) folder.mkpath(".");
+    ShowProfile();
+    GiveUpPlanPress();
     const FlightPlan& plan = session.plan;
     const std::string name =
         plan.Row(0).Code.Text() + " to " + plan.Row(plan.DestinationRow()).Code.Text() + ".pln";
@@ -89,4 +92,5 @@ void frmMap::SavePlan() {
     if (!ReplaceFile(std::filesystem::path(path.toStdString()), text, &reason))
       messages.Show("The flight plan could not be saved.\n\n" + reason, MessageIcon::exclamation);
   });
+  if (!states.editRows) actions["mnuInsertWP"]->setChecked(false);
 }

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "windows/qt_painter_surface.h"
 #include "windows/style.h"
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr float panPart = 0.2F;
+constexpr int labelOffset = 14;  // pixels between a place and its label
 constexpr int wheelStep = 120;
 // A hand that shakes while it clicks draws no box.
 constexpr double clickTolerance = 3;
@@ -60,6 +62,17 @@ SurfacePoint MapCanvas::VisibleUnits() const {
   return {static_cast<float>(width() / scale), static_cast<float>(height() / scale)};
 }
 
+void MapCanvas::PlaceLabel(QLabel& label, QPoint place, Qt::Corner side) const {
+  const bool left = side == Qt::TopLeftCorner || side == Qt::BottomLeftCorner;
+  const bool above = side == Qt::TopLeftCorner || side == Qt::TopRightCorner;
+  const int x = left ? place.x() - labelOffset - label.width() : place.x() + labelOffset;
+  const int y = above ? place.y() - labelOffset - label.height() : place.y() + labelOffset;
+  const QRect seen = Seen();
+  const int right = std::max(seen.left(), seen.right() + 1 - label.width());
+  const int bottom = std::max(seen.top(), seen.bottom() + 1 - label.height());
+  label.move(std::clamp(x, seen.left(), right), std::clamp(y, seen.top(), bottom));
+}
+
 void MapCanvas::DrawAnew() {
   stale = false;
   const double density = devicePixelRatioF();
@@ -98,7 +111,7 @@ void MapCanvas::mousePressEvent(QMouseEvent* event) {
   leftDown = true;
   pressedAt = event->position();
   const SurfacePoint pointer = Placement().ToUnits(pressedAt);
-  Q_EMIT ButtonDown(pointer.x, pointer.y);
+  Q_EMIT ButtonDown(pointer.x, pointer.y, event->modifiers());
 }
 
 void MapCanvas::mouseMoveEvent(QMouseEvent* event) {

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <QImage>
+#include <QLabel>
 #include <QWidget>
 #include <functional>
 
@@ -43,11 +44,13 @@ class MapCanvas : public QWidget {
   void AskMenu();
   // Where a point of the page is in the widget.
   QPoint ToPixel(float x, float y) const { return Placement().ToPixel(x, y).toPoint(); }
+  // Moves a label of the map beside a pixel, on this side of it, kept within what is seen.
+  void PlaceLabel(QLabel& label, QPoint place, Qt::Corner side) const;
   const QImage& Picture() const { return VMap0; }
 
  Q_SIGNALS:
   // The left button, in map units. A click ends where it began, however the hand shook.
-  void ButtonDown(float x, float y);
+  void ButtonDown(float x, float y, Qt::KeyboardModifiers modifiers);
   void ButtonUp(float x, float y, bool shift);
   void PointerMoved(float x, float y);
   void PointerLeft();

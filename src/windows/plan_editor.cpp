@@ -1,11 +1,13 @@
 #include "windows/plan_editor.h"
 
 #include "base/error_trap.h"
+#include "flightplan/plan_drag.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
 #include "flightplan/procedures.h"
 #include "flightplan/route_parser.h"
 #include "flightplan/route_string.h"
+#include "flightplan/waypoint_search.h"
 
 PlanEditor::PlanEditor(Session& session, MessageBox& messages, PointerShape& pointer, QObject* parent)
     : QObject(parent), session(session), messages(messages), pointer(pointer), search(session.database) {}
@@ -92,6 +94,18 @@ void PlanEditor::Redo() {
 
 void PlanEditor::Restore(std::string_view head, void (PlanHistory::*step)(FlightPlan&)) {
   Change(head, [&] {
+void PlanEditor::InsertAfterSelection(const PlanWaypoint& row) {
+  Change("frmMap lstWP (", [&] { ::InsertAfterSelection(session.plan, Context(), row); });
+}
+
+void PlanEditor::MoveRow(int row, const PlanWaypoint& target) {
+  Change("frmMap Map_MouseUp (", [&] { MovePlanWaypoint(session.plan, Context(), row, target); });
+}
+
+void PlanEditor::InsertBefore(int row, const PlanWaypoint& target) {
+  Change("frmMap Map_MouseUp (", [&] { InsertIntoLeg(session.plan, Context(), row, target); });
+}
+
     (session.planHistory.*step)(session.plan);
     // The times are those of the aircraft that flies now.
     SelectAircraft(AircraftRec(session.aircraft), session.aircraft, session.plan);
