@@ -46,6 +46,22 @@ QPixmap PictureOf(MessageIcon icon, double density) {
   return picture;
 }
 
+// While the program works the pointer is the hourglass; over a question it is the arrow again.
+class ArrowWhile {
+ public:
+  ArrowWhile() : waiting(QApplication::overrideCursor() != nullptr) {
+    if (waiting) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  }
+  ~ArrowWhile() {
+    if (waiting) QApplication::restoreOverrideCursor();
+  }
+  ArrowWhile(const ArrowWhile&) = delete;
+  ArrowWhile& operator=(const ArrowWhile&) = delete;
+
+ private:
+  bool waiting;
+};
+
 // Runs a box and gives the button that closed it.
 int RunBox(QWidget* parent, std::string_view text, MessageIcon icon, QMessageBox::StandardButtons buttons) {
   QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(messageTitle.data(), messageTitle.size()),
@@ -53,6 +69,7 @@ int RunBox(QWidget* parent, std::string_view text, MessageIcon icon, QMessageBox
   if (icon != MessageIcon::none) box.setIconPixmap(PictureOf(icon, box.devicePixelRatioF()));
   box.setTextFormat(Qt::PlainText);
   box.setObjectName("messageBox");
+  const ArrowWhile asked;
   return box.exec();
 }
 
