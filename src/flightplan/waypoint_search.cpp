@@ -36,15 +36,14 @@ bool BeginsWith(std::string_view code, std::string_view ident) {
   return code.size() >= ident.size() && EqualNoCase(code.substr(0, ident.size()), ident);
 }
 
-std::optional<Position> PlaceOfInsertion(const FlightPlan& plan) {
-  if (plan.RowCount() < 2) return std::nullopt;
-  const PlanWaypoint& row = plan.Row(InsertionRow(plan));
-  return Position{row.Lat, row.Lon};
+// Null while there is no plan.
+const PlanWaypoint* RowBefore(const FlightPlan& plan) {
+  return plan.RowCount() < 2 ? nullptr : &plan.Row(InsertionRow(plan));
 }
 
 class Collector {
  public:
-  Collector(std::string ident, std::optional<Position> from) : ident(std::move(ident)), from(from) {}
+  Collector(std::string ident, const PlanWaypoint* from) : ident(std::move(ident)), from(from) {}
 
   template <class Row>
   void Walk(const std::vector<Row>& rows, Table table, std::size_t count) {
@@ -52,7 +51,8 @@ class Collector {
       const Row& row = rows[i];
       const std::string_view code = row.strCode.View();
       if (!BeginsWith(code, ident)) continue;
-      const float distance = from ? GreatCircleDistance(from->lat, from->lon, row.sngLat, row.sngLon) : 0.0F;
+      const float distance =
+          from != nullptr ? GreatCircleDistance(from->Lat, from->Lon, row.sngLat, row.sngLon) : 0.0F;
       hits.push_back({code.size() == ident.size(), distance, table, static_cast<std::int32_t>(i)});
     }
   }
@@ -67,7 +67,7 @@ class Collector {
 
  private:
   std::string ident;
-  std::optional<Position> from;
+  const PlanWaypoint* from;
   std::vector<Hit> hits;
 };
 
@@ -88,12 +88,13 @@ PlanWaypoint RowOf(const NavDatabase& database, Table table, std::int32_t index)
   return ObjectRow(database.userWaypoints[at], index);
 }
 
-FoundWaypoint Found(const PlanWaypoint& row, const std::optional<Position>& from) {
-  FoundWaypoint found{row};
-  if (from) {
-    found.distance = GreatCircleDistance(from->lat, from->lon, row.Lat, row.Lon);
-    found.course = GreatCircleCourse(from->lat, from->lon, row.Lat, row.Lon);
-  }
+FoundWaypoint Found(const PlanWaypoint& row, const PlanWaypoint* from) {
+  FoundWaypoint found;
+  found.row = row;
+  if (from == nullptr) return found;
+  found.distance = GreatCircleDistance(from->Lat, from->Lon, row.Lat, row.Lon);
+  found.course = GreatCircleCourse(from->Lat, from->Lon, row.Lat, row.Lon);
+  found.magneticCourse = static_cast<float>(NormalizeDeg(found.course - from->MagVar));
   return found;
 }
 
@@ -117,7 +118,7 @@ std::vector<FoundWaypoint> FindWaypoints(const FlightPlan& plan, const NavDataba
   std::vector<FoundWaypoint> found;
   const std::string ident = Ident(typed);
   if (ident.empty()) return found;
-  const std::optional<Position> from = PlaceOfInsertion(plan);
+  const PlanWaypoint* from = RowBefore(plan);
   if (const auto place = PositionFromText(typed))
     found.push_back(Found(UserPositionRow(plan, database, *place), from));
   Collector collector(ident, from);

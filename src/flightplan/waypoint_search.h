@@ -13,6 +13,7 @@ struct FoundWaypoint {
   PlanWaypoint row;    // ready to be inserted
   float distance = 0;  // NM from where the search was made; 0 without a place
   float course = 0;    // true, from there
+  float magneticCourse = 0;
 };
 constexpr std::size_t mostWaypointsFound = 100;
 

@@ -20,6 +20,7 @@
 #include "map/drag_box.h"
 #include "map/draw_map.h"
 #include "map/hover.h"
+#include "map/map_objects_near.h"
 #include "map/measure_line.h"
 #include "map/pointer_panel.h"
 #include "startup/session.h"
@@ -149,6 +150,10 @@ class frmMap : public QMainWindow {
   void CentreOnMark();
   void DrawProfileMark(DrawSurface& surface);
 
+  void ChooseAirports(const AirportChoice& opening);
+  void TakeAirport(const AirportChoice& choice);
+  // Departure, destination, alternate: what the airports under the pointer can be.
+  void AddAirportItems(QMenu& menu, const std::vector<MapObject>& objects);
   void PlanChanged();
   void ShowCommandStates();
   void ShowNewPlan();

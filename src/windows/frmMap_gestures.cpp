@@ -274,6 +274,7 @@ void frmMap::OpenMapMenu(float x, float y, const QPoint& global) {
 void frmMap::AddObjects(QMenu& menu, float x, float y) {
   const std::vector<MapObject> objects = MapObjectsNear(Question(x, y), session.selection);
   if (objects.empty()) return;
+  AddAirportItems(menu, objects);
   menu.addSeparator();
   menu.addAction(tr("Highlight"))->setEnabled(false);
   int number = 0;

@@ -3,7 +3,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLayout>
+#include <QMenu>
 
+#include "base/code_page.h"
 #include "base/files.h"
 #include "flightplan/plan_file.h"
 #include "flightplan/plan_layers.h"
@@ -27,10 +29,49 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
 }  // namespace
 
 void frmMap::SelectAirports() {
+  ChooseAirports(ChoiceOf(session.plan, session.database));
+}
+
+void frmMap::ChooseAirports(const AirportChoice& opening) {
   Trapped("frmMap SelectAirports (", [&] {
-    frmSelectAP dialog(session.database, session.plan.DepartureIndex, session.plan.DestinationIndex, this);
-    if (dialog.exec() == QDialog::Accepted) editor.StartPlan(dialog.DepartureRow(), dialog.DestinationRow());
+    frmSelectAP dialog(session.plan, session.database, opening, this);
+    if (dialog.exec() == QDialog::Accepted) editor.TakeAirports(dialog.Choice());
   });
+}
+
+// A plan that is complete and loses no route is taken as it is; everything else
+// is shown to the pilot first.
+void frmMap::TakeAirport(const AirportChoice& choice) {
+  const bool losesRoute = session.plan.RowCount() > 2 && IsNewPlan(choice, session.plan);
+  if (choice.Complete() && !losesRoute) return editor.TakeAirports(choice);
+  ChooseAirports(choice);
+}
+
+void frmMap::AddAirportItems(QMenu& menu, const std::vector<MapObject>& objects) {
+  const AirportChoice present = ChoiceOf(session.plan, session.database);
+  for (const MapObject& object : objects) {
+    const std::int32_t row = object.selection.SelectedObjectIndex;
+    const bool isAirport = row >= 0 && row < session.database.AirportCount() &&
+                           object.selection.SelectedObjectType == SelectedObject::airport;
+    if (!isAirport) continue;
+    const QString code = QString::fromStdString(
+        CodePageToUtf8(session.database.airports[static_cast<std::size_t>(row)].strCode.View()));
+    QMenu* roles = menu.addMenu(tr("&Airport %1").arg(code));
+    roles->setObjectName("mnuAirportRole");
+    const auto add = [&](const QString& name, const QString& text, std::int32_t AirportChoice::*role) {
+      QAction* action = roles->addAction(text, this, [this, present, row, role] {
+        AirportChoice choice = present;
+        choice.*role = row;
+        if (role == &AirportChoice::departure) choice.start.reset();
+        TakeAirport(choice);
+      });
+      action->setObjectName(name);
+      action->setEnabled(present.*role != row);
+    };
+    add("mnuDeparture", tr("&Departure"), &AirportChoice::departure);
+    add("mnuDestination", tr("D&estination"), &AirportChoice::destination);
+    add("mnuAlternate", tr("&Alternate"), &AirportChoice::alternate);
+  }
 }
 
 void frmMap::PlanChanged() {

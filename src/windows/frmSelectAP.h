@@ -1,38 +1,86 @@
-// The dialog in which the pilot names the departure and the destination by
-// their codes. It looks the names up while they are typed.
+// The dialog in which the pilot chooses the airports of the plan: departure
+// with its start position, destination, and an alternate if he wants one. What
+// he types into a field is searched for at once; the list below shows what was
+// found for the field that he is in.
 #pragma once
 
 #include <QDialog>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <array>
+#include <optional>
 
-#include "navdata/nav_database.h"
+#include "flightplan/airport_choice.h"
+#include "navdata/airport_search.h"
+#include "windows/airport_list.h"
+#include "windows/start_position_box.h"
 
 class frmSelectAP : public QDialog {
   Q_OBJECT
 
  public:
-  // Departure and destination as rows of the airport table, -1: none yet.
-  frmSelectAP(const NavDatabase& database, int departureRow, int destinationRow, QWidget* parent = nullptr);
+  // Opens with a choice, such as the plan's own (ChoiceOf). Plan and database
+  // outlive the dialog.
+  frmSelectAP(const FlightPlan& plan, const NavDatabase& database, const AirportChoice& opening,
+              QWidget* parent = nullptr);
 
-  // Rows of the airport table; -1 while a code is not known.
-  int DepartureRow() const { return departureRow; }
-  int DestinationRow() const { return destinationRow; }
+  // Complete() once the pilot can accept it.
+  AirportChoice Choice() const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QLineEdit* AddField(class QGridLayout* layout, int line, const QString& caption, const QString& name,
-                      QLabel** airportName);
-  void LookUp();
-  int ShowAirport(const QLineEdit& code, QLabel& name) const;
+  enum Role { departure, destination, alternate, roles };
+  struct Field {
+    QLineEdit* text = nullptr;
+    QLabel* name = nullptr;
+    QLabel* details = nullptr;
+    std::int32_t row = -1;  // of the airport table
+    std::size_t matches = 0;
+  };
 
+  void BuildFields();
+  void AddField(QGridLayout* grid, Role role, const QString& caption, const QString& textName,
+                const QString& labelName);
+  QPushButton* AddSideButton(QGridLayout* grid, Role role, const QString& name, const QString& text);
+  void BuildList();
+  void BuildButtons();
+  Field& At(Role role) { return fields[static_cast<std::size_t>(role)]; }
+  const Field& At(Role role) const { return fields[static_cast<std::size_t>(role)]; }
+  const AirportRec* Airport(Role role) const;
+  Role RoleOf(const QObject* text) const;
+
+  void Typed(Role role);
+  void Search(Role role);
+  // Chooses a row of the airport table for a field; -1 empties it.
+  void Choose(Role role, std::int32_t row);
+  void Picked(std::int32_t row);
+  // Takes what the list has selected if the field has text but no airport yet.
+  void TakeBest(Role role);
+  bool FieldKey(Role role, const class QKeyEvent& key);
+  void EnterField(Role role);
+  void Leave(Role role);
+  void Swap();
+  void ShowAll();
+  void ShowField(Role role);
+  QString DetailsOf(Role role) const;
+  void ShowRoute();
+  void ShowList();
+
+  const FlightPlan& plan;
   const NavDatabase& database;
-  int departureRow = -1;
-  int destinationRow = -1;
-  QLineEdit* txtDepAP;
-  QLineEdit* txtDestAP;
-  QLabel* lblDepName;
-  QLabel* lblDestName;
+  std::optional<AirportSearch> search;  // made when it is first needed
+  std::array<Field, roles> fields;
+  Role active = departure;
+  StartPositionBox* lstDep;
+  AirportList* lstAirports;
+  QLabel* lblList;
   QLabel* lblDistance;
+  QLabel* lblChange;
+  QPushButton* cmdSwap;
+  QPushButton* cmdNoAlternate;
   QPushButton* cmdOK;
 };

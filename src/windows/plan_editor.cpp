@@ -48,6 +48,21 @@ void PlanEditor::StartPlan(int departureRow, int destinationRow) {
   if (session.plan.RowCount() >= 2) Q_EMIT Started();
 }
 
+void PlanEditor::TakeAirports(const AirportChoice& choice) {
+  const bool isNew = IsNewPlan(choice, session.plan);
+  if (isNew) fromRouteString = false;
+  Change("frmMap SelectAirports (", [&] { ApplyAirports(session.plan, Context(), choice); });
+  if (isNew && session.plan.RowCount() >= 2) Q_EMIT Started();
+}
+
+void PlanEditor::SetAlternate(int airportRow) {
+  Change("frmMap mnuAlternate (", [&] { ::SetAlternate(session.plan, Context(), airportRow); });
+}
+
+void PlanEditor::SetStart(const StartPosition* start) {
+  Change("frmMap lstDep (", [&] { SetStartPosition(session.plan, Context(), start); });
+}
+
 void PlanEditor::CreateFP() {
   Change("frmMap mnuCreateNavaid (", [&] {
     const MapSwitches& on = session.switches;

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "flightplan/airport_choice.h"
 #include "flightplan/airway_search.h"
 #include "flightplan/plan_commands.h"
 #include "flightplan/plan_context.h"
@@ -34,6 +35,13 @@ class PlanEditor : public QObject {
 
   // The plan between two rows of the airport table.
   void StartPlan(int departureRow, int destinationRow);
+  // The airports as the pilot chose them; the rows stay if only the alternate
+  // or the start is another.
+  void TakeAirports(const AirportChoice& choice);
+  // A row of the airport table, -1: none.
+  void SetAlternate(int airportRow);
+  // Null: the airport's own position.
+  void SetStart(const StartPosition* start);
   void CreateFP();
   void GenerateRoute(AirwayNetwork network);
   // The plan that text says.

@@ -61,6 +61,14 @@ QPushButton:default:hover { background: #3273c0; }
 QPushButton:disabled { background: #1a212c; border-color: #262f3c; color: #5c6676; }
 QLineEdit { background: #0d1118; border: 1px solid #334155; border-radius: 5px; padding: 7px 9px; selection-background-color: #2b65ab; }
 QLineEdit:focus { border-color: #4084d6; }
+QLineEdit[fault="true"], QLineEdit[fault="true"]:focus { border-color: #a85a50; }
+QComboBox { background: #0d1118; border: 1px solid #334155; border-radius: 5px; padding: 6px 9px; }
+QComboBox:focus { border-color: #4084d6; }
+QComboBox:disabled { color: #5c6676; border-color: #262f3c; }
+QComboBox QLineEdit { background: transparent; border: none; padding: 0; }
+QComboBox::drop-down { border: none; width: 22px; }
+QComboBox QAbstractItemView { background: #19202c; border: 1px solid #2c3748; selection-background-color: #2b5c99; outline: none; }
+QTableView#lstWP { background: #10232b; border: 1px solid #1f3b47; border-radius: 5px; }
 QFrame#statusStrip { background: #111620; border-top: 1px solid #232c3a; }
 QFrame#statusStrip QLabel { color: #a7b3c4; padding: 0 12px; border-right: 1px solid #232c3a; }
 QFrame#statusStrip QLabel[mood="to"] { color: #f4897b; }

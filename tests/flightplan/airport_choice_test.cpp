@@ -234,6 +234,9 @@ TEST(WaypointSearch, TellsDistanceAndCourseAndTakesPositions) {
   EXPECT_EQ(found[0].distance, GreatCircleDistance(50, 8, 50, 9));
   EXPECT_EQ(found[0].course, GreatCircleCourse(50, 8, 50, 9));
   EXPECT_EQ(found[0].row.Kind, RowKind::enroute);
+  drawn.plan.Row(0).MagVar = 100;
+  EXPECT_EQ(FindWaypoints(drawn.plan, drawn.world.database, "N50 E009")[0].magneticCourse,
+            found[0].course + 260);
   ASSERT_TRUE(InsertAfterSelection(drawn.plan, drawn.context, found[0].row));
   EXPECT_EQ(drawn.Find("N51 E009"), "Uwp WP02");
 }
