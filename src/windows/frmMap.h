@@ -27,8 +27,8 @@
 #include "windows/map_canvas.h"
 #include "windows/plan_editor.h"
 #include "windows/pnlFlightplan.h"
-#include "windows/route_field.h"
 #include "windows/profile_strip.h"
+#include "windows/route_field.h"
 #include "windows/status_strip.h"
 #include "windows/toggle_ribbon.h"
 
@@ -125,7 +125,6 @@ class frmMap : public QMainWindow {
   void PlaceMapLabels();
   Position PointerPosition() const;
 
-  // The plan.
   // What it does there to the plan. X, y: the place on the map.
   double Pixels(double count) const;  // in map units
   void BeginPlanPress(float x, float y, Qt::KeyboardModifiers modifiers);
@@ -150,6 +149,7 @@ class frmMap : public QMainWindow {
   void CentreOnMark();
   void DrawProfileMark(DrawSurface& surface);
 
+  // The plan.
   void ChooseAirports(const AirportChoice& opening);
   void TakeAirport(const AirportChoice& choice);
   // Departure, destination, alternate: what the airports under the pointer can be.
@@ -176,13 +176,13 @@ class frmMap : public QMainWindow {
   ToggleRibbon* pnlToggleButtons;
   QLabel* lblMeasure;
   QLabel* lblCourseRadial;
+  QLabel* lblPlanDrag;
+  ProfileStrip* profileStrip;
   StatusStrip* lblMapStatus;
   pnlFlightplan* panel;
   RouteField* txtRoute;
   std::map<QString, QAction*> actions;  // by menu name
   QActionGroup* aircraftGroup;
-  QLabel* lblPlanDrag;
-  ProfileStrip* profileStrip;
   QTimer tmrClock;
   QTimer tmrMousePos;
   QTimer tmrModeName;  // runs while panel 5 shows its mode's name
@@ -191,13 +191,13 @@ class frmMap : public QMainWindow {
   DragBox box;
   MeasureLine measure;
   bool measureFollows = false;  // begun from the menu: the line follows without a button
+  PlanDrag drag;
+  bool insertOnClick = false;  // the button went down to insert a waypoint, if it does not move
   HoverRest rest;
   std::vector<HoverLine> hoverLines;
   bool hoverSearched = false;  // since the pointer came to rest
   bool overlayShown = false;   // something hung on the pointer when it was last followed
   bool pointerOnMap = false;
-  PlanDrag drag;
-  bool insertOnClick = false;  // the button went down to insert a waypoint, if it does not move
   bool pointerSeen = false;  // it has been on the map
   SurfacePoint pointerAt;    // last known, map units
   CursorPanelMode cursorPanelMode = CursorPanelMode::coordinates;

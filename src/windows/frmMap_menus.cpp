@@ -116,7 +116,7 @@ void frmMap::BuildViewMenu() {
   view->addSeparator();
   view->addAction(AddSwitch("mnuAirport", tr("&Airports"), &Flags::mnuAirport, "Ctrl+Shift+A"));
   view->addAction(AddSwitch("mnuILS", tr("&ILS"), &Flags::mnuILS, "Ctrl+Shift+I"));
-  view->addAction(AddSwitch("mnuVOR", tr("&VOR"), &Flags::mnuVOR, "Ctrl+Shift+V"));
+  view->addAction(AddSwitch("mnuVOR", tr("V&OR"), &Flags::mnuVOR, "Ctrl+Shift+V"));
   view->addAction(AddSwitch("mnuNDB", tr("&NDB"), &Flags::mnuNDB, "Ctrl+Shift+N"));
   view->addAction(
       AddSwitch("mnuIntersection", tr("All inter&sections"), &Flags::mnuIntersection, "Ctrl+Shift+X"));
@@ -137,13 +137,12 @@ void frmMap::BuildPanelsMenu(QMenu* view) {
   view->addAction(AddToggle(
       "mnuShowPlan", tr("Fligh&t plan panel"), true, [this](bool) { PlanChanged(); }, "F4"));
   QAction* profile = AddToggle(
-      "mnuProfile", tr("&Vertical picture"), session.switches.mnuProfile,
-      [this](bool on) {
-        session.switches.mnuProfile = on;
-        ShowProfile();
-      },
-      "F5");
-  connect(profile, &QAction::triggered, this, [this] { session.switches.profileChosen = true; });
+      "mnuProfile", tr("&Vertical picture"), !session.switches.profileChosen || session.switches.mnuProfile,
+      [this](bool) { ShowProfile(); }, "F5");
+  connect(profile, &QAction::triggered, this, [this](bool on) {
+    session.switches.profileChosen = true;
+    session.switches.mnuProfile = on;
+  });
   view->addAction(profile);
   QMenu* panels = view->addMenu(tr("Status pan&els"));
   panels->addAction(AddToggle("mnuLocalTime", tr("&Local time"), false, [this](bool on) {
@@ -250,6 +249,7 @@ void frmMap::BuildToolBar() {
   AddButton(bar, actions["mnuCreateNavaid"], "cmdCreateFP", tr("Navaids"), "navaid_route");
   AddButton(bar, actions["mnuCreateLoAlt"], "cmdLoAlt", tr("Low route"), "low_route");
   AddButton(bar, actions["mnuCreateHiAlt"], "cmdHiAlt", tr("High route"), "high_route");
+  AddButton(bar, actions["mnuInsertWP"], "cmdInsertWP", {}, "insert_waypoint");
   AddButton(bar, actions["mnuSaveFPAs"], "cmdSaveFPAs", tr("Save"), "save");
   bar->addSeparator();
   AddButton(bar, actions["mnuZoomIn"], "cmdZoom", {}, "zoom_in");
@@ -300,9 +300,7 @@ void frmMap::BuildRibbon() {
        {"mnuName", "btnName", "names"},
        {"mnuFreq", "btnFreq", "frequencies"},
        {"mnuSunrise", "rbnSunrise", "sun"}},
-      {{"mnuInsertWP", "rbnInsertWP", "insert_waypoint"},
-       {"mnuMeasure", "rbnMeasure", "measure"},
-       {"mnuBearingLine", "rbnBearingLine", "bearing_line"}},
+      {{"mnuMeasure", "rbnMeasure", "measure"}, {"mnuBearingLine", "rbnBearingLine", "bearing_line"}},
   };
   for (const auto& group : groups) {
     for (const Toggle& toggle : group)

@@ -20,9 +20,9 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuCreateNavaid", &PlanCommandStates::createRoute},
     {"mnuCreateLoAlt", &PlanCommandStates::createRoute},
     {"mnuCreateHiAlt", &PlanCommandStates::createRoute},
+    {"mnuInsertWP", &PlanCommandStates::editRows},
     {"mnuSaveFPAs", &PlanCommandStates::save},
     {"mnuUndo", &PlanCommandStates::undo},
-    {"mnuInsertWP", &PlanCommandStates::editRows},
     {"mnuRedo", &PlanCommandStates::redo},
 };
 
@@ -80,6 +80,8 @@ void frmMap::PlanChanged() {
     txtRoute->setText(QString::fromStdString(editor.RouteText()));
     txtRoute->setCursorPosition(0);  // a long one shows its beginning
     panel->Refresh();
+    ShowProfile();
+    GiveUpPlanPress();
     panel->setVisible(session.plan.RowCount() > 0 && actions["mnuShowPlan"]->isChecked());
     FollowPointer();
     DrawMap();
@@ -90,6 +92,7 @@ void frmMap::ShowCommandStates() {
   const PlanCommandStates states = editor.States();
   for (const auto& [name, state] : commandStates)
     actions[name]->setEnabled(states.*state);
+  if (!states.editRows) actions["mnuInsertWP"]->setChecked(false);
 }
 
 void frmMap::ShowNewPlan() {
@@ -121,8 +124,6 @@ void frmMap::SavePlan() {
     const std::string text = WritePlan(session.plan, session.database, PlanFormat::FS);
     const QDir folder(PlanFolder());
     if (!folder.exists()) folder.mkpath(".");
-    ShowProfile();
-    GiveUpPlanPress();
     const FlightPlan& plan = session.plan;
     const std::string name =
         plan.Row(0).Code.Text() + " to " + plan.Row(plan.DestinationRow()).Code.Text() + ".pln";
@@ -133,5 +134,4 @@ void frmMap::SavePlan() {
     if (!ReplaceFile(std::filesystem::path(path.toStdString()), text, &reason))
       messages.Show("The flight plan could not be saved.\n\n" + reason, MessageIcon::exclamation);
   });
-  if (!states.editRows) actions["mnuInsertWP"]->setChecked(false);
 }

@@ -21,7 +21,7 @@ void frmMap::BuildProfile(QBoxLayout* below) {
 }
 
 void frmMap::ShowProfile() {
-  const bool shown = session.switches.mnuProfile && session.plan.RowCount() >= 2;
+  const bool shown = actions["mnuProfile"]->isChecked() && session.plan.RowCount() >= 2;
   if (shown) profileStrip->Show(ComputeFlightProfile(session.plan, editor.Context()));
   profileStrip->setVisible(shown);
 }

@@ -94,6 +94,18 @@ void PlanEditor::DeleteRow(int row) {
   Change("frmMap grdWPTable (", [&] { DeleteTableRow(session.plan, Context(), row); });
 }
 
+void PlanEditor::InsertAfterSelection(const PlanWaypoint& row) {
+  Change("frmMap lstWP (", [&] { ::InsertAfterSelection(session.plan, Context(), row); });
+}
+
+void PlanEditor::MoveRow(int row, const PlanWaypoint& target) {
+  Change("frmMap Map_MouseUp (", [&] { MovePlanWaypoint(session.plan, Context(), row, target); });
+}
+
+void PlanEditor::InsertBefore(int row, const PlanWaypoint& target) {
+  Change("frmMap Map_MouseUp (", [&] { InsertIntoLeg(session.plan, Context(), row, target); });
+}
+
 void PlanEditor::NewPlan() {
   fromRouteString = false;
   Change("frmMap mnuNewFP (", [&] { ClearFlightPlan(session.plan); });
@@ -109,18 +121,6 @@ void PlanEditor::Redo() {
 
 void PlanEditor::Restore(std::string_view head, void (PlanHistory::*step)(FlightPlan&)) {
   Change(head, [&] {
-void PlanEditor::InsertAfterSelection(const PlanWaypoint& row) {
-  Change("frmMap lstWP (", [&] { ::InsertAfterSelection(session.plan, Context(), row); });
-}
-
-void PlanEditor::MoveRow(int row, const PlanWaypoint& target) {
-  Change("frmMap Map_MouseUp (", [&] { MovePlanWaypoint(session.plan, Context(), row, target); });
-}
-
-void PlanEditor::InsertBefore(int row, const PlanWaypoint& target) {
-  Change("frmMap Map_MouseUp (", [&] { InsertIntoLeg(session.plan, Context(), row, target); });
-}
-
     (session.planHistory.*step)(session.plan);
     // The times are those of the aircraft that flies now.
     SelectAircraft(AircraftRec(session.aircraft), session.aircraft, session.plan);

@@ -48,6 +48,11 @@ class PlanEditor : public QObject {
   void TakeRoute(const std::string& text);
   void DeleteEnrouteWPs();
   void DeleteRow(int row);
+  // A waypoint behind the selected row.
+  void InsertAfterSelection(const PlanWaypoint& row);
+  // A waypoint pulled to another place, and one pulled out of the leg that leads to row.
+  void MoveRow(int row, const PlanWaypoint& target);
+  void InsertBefore(int row, const PlanWaypoint& target);
   void NewPlan();
   void Undo();
   void Redo();
@@ -56,11 +61,6 @@ class PlanEditor : public QObject {
  Q_SIGNALS:
   // The plan is another, or has other figures.
   void Changed();
-  // A waypoint behind the selected row.
-  void InsertAfterSelection(const PlanWaypoint& row);
-  // A waypoint pulled to another place, and one pulled out of the leg that leads to row.
-  void MoveRow(int row, const PlanWaypoint& target);
-  void InsertBefore(int row, const PlanWaypoint& target);
   // A plan has begun: the map shows the whole of it.
   void Started();
 
