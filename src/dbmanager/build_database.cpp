@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cmath>
 #include <unordered_map>
 
 #include "base/app_folder.h"
@@ -10,6 +11,7 @@
 #include "dbmanager/airspace_file.h"
 #include "dbmanager/airway_ends.h"
 #include "dbmanager/airway_files.h"
+#include "dbmanager/cifp_files.h"
 #include "dbmanager/first_aircraft.h"
 #include "dbmanager/ground_files.h"
 #include "dbmanager/navaid_files.h"
@@ -59,6 +61,21 @@ class Builder {
                         "database/FS10/" + std::string(name) + ".vlm");
     }
     Step("swapping the new database in", 0.97);
+    report.files = staged.FilesWritten();
+    report.bytes = staged.BytesWritten();
+    staged.SwapIn();
+    progress("done", 1);
+  }
+
+  void BuildProceduresOnly() {
+    const fs::path modelFile = options.dataFolder / "wmm2025.txt";
+    StagedDatabase staged(options.home);
+    Step("reading the magnetic model", 0);
+    LineReader modelLines(modelFile);
+    world.model = MagneticModel::Read(modelLines);
+    year = DecimalYear(options.date.year, options.date.month, options.date.day);
+    WriteProcedures(staged, 0.01, 0.95);
+    Step("swapping the new procedures in", 0.97);
     report.files = staged.FilesWritten();
     report.bytes = staged.BytesWritten();
     staged.SwapIn();
@@ -260,7 +277,31 @@ class Builder {
     if (!fs::exists(ResolveBelow(options.home, "user/aircraft.vlm"))) {
       staged.Write("user/aircraft.vlm", AircraftText(FirstAircraft()));
     }
-    report.notes.push_back("No procedures are read yet: sid.vlm and star.vlm are not written.");
+    if (options.cifp.empty())
+      report.notes.push_back("sid.vlm and star.vlm stay as they are: --cifp DIR makes them.");
+    else
+      WriteProcedures(staged, 0.96, 0.01);
+  }
+
+  void WriteProcedures(StagedDatabase& staged, double from, double share) {
+    Step("making procedures", from);
+    // Tracks are magnetic to a tenth of a degree at best: one value per square degree does.
+    std::unordered_map<int, double> variations;
+    const auto variation = [&](SourcePosition p) {
+      const int lat = static_cast<int>(std::floor(p.lat)), lon = static_cast<int>(std::floor(p.lon));
+      const auto [found, fresh] = variations.try_emplace(lat * 1000 + lon, 0.0);
+      if (fresh) found->second = world.model.Declination({lat + 0.5, lon + 0.5}, year);
+      return found->second;
+    };
+    ProcedureReport read;
+    const ProcedureFiles procedures = MakeProcedureFiles(
+        FindCifpSources(options.cifp), variation, [&](double done) { KeepOn(share * done); }, report.rejects,
+        read);
+    staged.Write("database/sid.vlm", procedures.sid);
+    staged.Write("database/star.vlm", procedures.star);
+    Row("SIDs", procedures.sids.procedures, procedures.sids.entries, "one for each runway and transition");
+    Row("STARs", procedures.stars.procedures, procedures.stars.entries,
+        std::to_string(read.airports) + " airports have procedures");
   }
 
   const BuildOptions& options;
@@ -285,15 +326,28 @@ BuildDate Today() {
           static_cast<int>(static_cast<unsigned>(today.day()))};
 }
 
-bool BuildDatabase(const BuildOptions& options, const BuildProgress& progress, BuildReport& report) {
+namespace {
+
+bool Run(void (Builder::*build)(), const BuildOptions& options, const BuildProgress& progress,
+         BuildReport& report) {
   const auto start = std::chrono::steady_clock::now();
   try {
-    Builder(options, progress, report).Build();
+    (Builder(options, progress, report).*build)();
   } catch (const std::exception& error) {
     report.failure = error.what();
   }
   report.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   return report.failure.empty();
+}
+
+}  // namespace
+
+bool BuildDatabase(const BuildOptions& options, const BuildProgress& progress, BuildReport& report) {
+  return Run(&Builder::Build, options, progress, report);
+}
+
+bool BuildProcedures(const BuildOptions& options, const BuildProgress& progress, BuildReport& report) {
+  return Run(&Builder::BuildProceduresOnly, options, progress, report);
 }
 
 bool BuildBundledDatabase(const fs::path& home, const fs::path& dataFolder, const BuildProgress& progress,

@@ -27,6 +27,7 @@ struct BuildOptions {
   SourceKind source = SourceKind::bundled;
   std::filesystem::path sourceFolder;          // not for bundled
   std::vector<std::filesystem::path> openAir;  // none: circles around towered airports
+  std::filesystem::path cifp;                  // procedures; empty: those that are there stay
   BuildDate date = Today();                    // of the magnetic variation
 };
 
@@ -55,7 +56,10 @@ using BuildProgress = std::function<bool(std::string_view step, double done)>;
 // report.failure says why.
 bool BuildDatabase(const BuildOptions& options, const BuildProgress& progress, BuildReport& report);
 
-// The same from the bundled data as of today.
+// Only the departures and arrivals (options.cifp); everything else stays as it is.
+bool BuildProcedures(const BuildOptions& options, const BuildProgress& progress, BuildReport& report);
+
+// The same as BuildDatabase() from the bundled data as of today.
 bool BuildBundledDatabase(const std::filesystem::path& home, const std::filesystem::path& dataFolder,
                           const BuildProgress& progress, BuildReport& report);
 

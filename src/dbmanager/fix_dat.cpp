@@ -19,7 +19,8 @@ FixData ReadFixDat(LineReader& lines, Rejects& rejects) {
       rejects.Add(lines.Name(), lines.LineNumber(), "no ident");
     } else {
       // Behind the ident of 1100: the terminal area or ENRT, then the region.
-      data.fixes.push_back({CodePageOf(fields[2]), hasRegion ? CodePageOf(fields[4]) : "", *position});
+      data.fixes.push_back({CodePageOf(fields[2]), hasRegion ? CodePageOf(fields[4]) : "", *position,
+                            hasRegion ? CodePageOf(fields[3]) : ""});
     }
   }
   return data;

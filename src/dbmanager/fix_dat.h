@@ -11,6 +11,7 @@ struct SourceFix {
   std::string ident;   // code page
   std::string region;  // two letters, or empty
   SourcePosition position;
+  std::string terminal;  // code of the airport whose procedures use it, or "ENRT"; empty in format 600
 };
 
 struct FixData {

@@ -51,21 +51,26 @@ class ProgressLine {
   bool terminal = isatty(STDERR_FILENO) != 0;
 };
 
-int Run(const BuildOptions& options) {
+int Run(const BuildOptions& options, bool proceduresOnly) {
   std::signal(SIGINT, AskToStop);
   std::signal(SIGTERM, AskToStop);
   std::signal(SIGHUP, AskToStop);
   ProgressLine line;
   BuildReport report;
-  const bool built = BuildDatabase(
-      options, [&](std::string_view step, double done) { return line.Show(step, done); }, report);
+  const auto show = [&](std::string_view step, double done) { return line.Show(step, done); };
+  const bool built =
+      proceduresOnly ? BuildProcedures(options, show, report) : BuildDatabase(options, show, report);
   line.Clear();
   if (!built) {
     std::cerr << "velmora-dbmanager: " << report.failure << "; the database is as it was\n";
     return exitFailed;
   }
-  std::cout << FormatReport(report) << "Database of cycle "
-            << (report.cycle.empty() ? "unknown" : report.cycle) << " in " << options.home.string() << "\n";
+  std::cout << FormatReport(report);
+  if (proceduresOnly)
+    std::cout << "sid.vlm and star.vlm in " << (options.home / "database").string() << "\n";
+  else
+    std::cout << "Database of cycle " << (report.cycle.empty() ? "unknown" : report.cycle) << " in "
+              << options.home.string() << "\n";
   return exitDone;
 }
 
@@ -79,9 +84,10 @@ int Main(int argumentCount, char** arguments) {
   source->add_flag("--bundled", bundled, "the world that comes with Velmora");
   source->add_option("--flightgear", flightGear, "an installed FlightGear data folder")->type_name("DIR");
   source->add_option("--xplane", xPlane, "an installed X-Plane 11 or 12")->type_name("DIR");
-  source->require_option(1);
+  source->require_option(0, 1);
   app.add_option("--openair", openAir, "airspaces in the OpenAir format")->type_name("FILE");
-  app.add_option("--cifp", cifp, "procedures (reserved, not read yet)")->type_name("DIR");
+  app.add_option("--cifp", cifp, "an X-Plane 11 or 12, its data folder, or its folder CIFP: SIDs and STARs")
+      ->type_name("DIR");
   app.add_option("--data", data, "folder with the bundled data")->type_name("DIR");
   app.add_option("--date", dateText, "day of the magnetic variation (default: today)")
       ->type_name("YYYY-MM-DD");
@@ -91,14 +97,17 @@ int Main(int argumentCount, char** arguments) {
     app.parse(argumentCount, arguments);
     if (dateText && !ParseDate(*dateText, options.date))
       throw CLI::ValidationError("--date", "is no day YYYY-MM-DD");
+    if (source->count_all() == 0 && !cifp)
+      throw CLI::RequiredError("--bundled, --flightgear, --xplane or --cifp");
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == 0) return app.exit(error);
-    std::cerr << "velmora-dbmanager: " << error.what() << "\n"
-              << "usage: velmora-dbmanager [--home DIR] (--bundled | --flightgear DIR | --xplane DIR) "
-                 "[--openair FILE...] [--cifp DIR] [--data DIR] [--date YYYY-MM-DD]\n";
+    std::cerr
+        << "velmora-dbmanager: " << error.what() << "\n"
+        << "usage: velmora-dbmanager [--home DIR] (--bundled | --flightgear DIR | --xplane DIR | --cifp DIR) "
+           "[--openair FILE...] [--cifp DIR] [--data DIR] [--date YYYY-MM-DD]\n";
     return exitUsage;
   }
-  if (cifp) std::cerr << "velmora-dbmanager: --cifp is reserved; procedures are not read yet\n";
+  if (cifp) options.cifp = *cifp;
   options.home = DefaultAppFolder(home);
   options.dataFolder = data ? std::filesystem::path(*data) : DefaultDataFolder();
   if (flightGear) {
@@ -109,7 +118,7 @@ int Main(int argumentCount, char** arguments) {
     options.sourceFolder = *xPlane;
   }
   options.openAir.assign(openAir.begin(), openAir.end());
-  return Run(options);
+  return Run(options, source->count_all() == 0);
 }
 
 }  // namespace

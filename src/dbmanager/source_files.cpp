@@ -17,14 +17,6 @@ bool IsFile(const fs::path& path) {
   return fs::is_regular_file(path, error);
 }
 
-// The name, or the name with ".gz"; an empty path if neither is there.
-fs::path PlainOrPacked(const fs::path& path) {
-  if (IsFile(path)) return path;
-  fs::path packed = path;
-  packed += ".gz";
-  return IsFile(packed) ? packed : fs::path();
-}
-
 fs::path Required(const fs::path& path) {
   fs::path found = PlainOrPacked(path);
   if (found.empty()) throw BuildError(path.string() + " is missing (plain or .gz)");
@@ -109,6 +101,13 @@ void AddBundled(const fs::path& data, SourceFiles& files) {
 }
 
 }  // namespace
+
+fs::path PlainOrPacked(const fs::path& path) {
+  if (IsFile(path)) return path;
+  fs::path packed = path;
+  packed += ".gz";
+  return IsFile(packed) ? packed : fs::path();
+}
 
 SourceFiles FindSourceFiles(SourceKind kind, const fs::path& folder, const fs::path& data) {
   SourceFiles files;

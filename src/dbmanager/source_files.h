@@ -7,6 +7,9 @@
 
 enum class SourceKind { bundled, flightGear, xPlane };
 
+// path, or path with ".gz" behind it; an empty path if neither is a file.
+std::filesystem::path PlainOrPacked(const std::filesystem::path& path);
+
 struct SourceFiles {
   // The later replaces airports of the earlier. Only the first must end with
   // its closing row: scenery packs often have none.

@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr std::size_t mostEntries = 1000;
-
 ProcedureStep StepOf(const ProcedureStepFileRecord& record) {
   ProcedureStep step;
   step.Type = record.strType;
@@ -37,20 +35,24 @@ ProcedureList ParseProcedures(std::span<const std::byte> bytes, std::string_view
   ByteReader reader(bytes);
   while (!reader.AtEnd()) {
     ProcedureFileHeader header;
-    if (!reader.ReadRecord(header)) break;
-    const bool ours = AsciiUpper(header.strAirport.View()) == wanted && list.entries.size() < mostEntries;
-    SidStarEntry entry{header.strAirport, header.strRunway, header.strName, {}};
-    for (int i = 0; i < header.bytSteps; ++i) {
-      ProcedureStepFileRecord record;
-      if (!reader.ReadRecord(record)) {
-        list.complete = false;
-        return list;
-      }
-      if (ours) entry.Steps.push_back(StepOf(record));
+    if (!reader.ReadRecord(header)) {
+      list.complete = false;
+      return list;
     }
-    if (ours) list.entries.push_back(std::move(entry));
+    const std::size_t size = header.bytSteps * RecordSize<ProcedureStepFileRecord>();
+    const auto records = reader.ReadBytes(size);
+    if (records.size() < size) {
+      list.complete = false;
+      return list;
+    }
+    if (AsciiUpper(header.strAirport.View()) != wanted || list.entries.size() == mostListedProcedures)
+      continue;
+    SidStarEntry entry{header.strAirport, header.strRunway, header.strName, {}};
+    ByteReader steps(records);
+    for (ProcedureStepFileRecord record; steps.ReadRecord(record);)
+      entry.Steps.push_back(StepOf(record));
+    list.entries.push_back(std::move(entry));
   }
-  list.complete = reader.AtEnd();
   return list;
 }
 
@@ -58,6 +60,7 @@ ProcedureList LoadProcedures(const AppFolder& home, ProcedureKind kind, std::str
   const auto path = home.Resolve(ProcedureFileName(kind));
   std::string reason;
   const auto contents = ReadWholeFile(path, &reason);
-  if (!contents) throw std::runtime_error(path.string() + ": " + reason);
+  if (!contents)
+    throw std::runtime_error(path.string() + ": " + reason + "\nvelmora-dbmanager --cifp DIR makes it.");
   return ParseProcedures(contents->Bytes(), airport);
 }

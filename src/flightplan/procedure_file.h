@@ -17,6 +17,9 @@ constexpr std::string_view ProcedureFileName(ProcedureKind kind) {
   return kind == ProcedureKind::sid ? "\\database\\sid.vlm" : "\\database\\star.vlm";
 }
 
+// As many of an airport's procedures as a list holds.
+constexpr std::size_t mostListedProcedures = 1000;
+
 struct SidStarEntry {
   FixedText<10> Airport;
   FixedText<5> Runway;
@@ -34,8 +37,9 @@ struct ProcedureList {
   bool complete = true;               // false: the file is cut off behind the last entry
 };
 
-// The procedures of one airport (its code in any letters), at most 1000.
+// The procedures of one airport (its code in any letters), at most mostListedProcedures.
 ProcedureList ParseProcedures(std::span<const std::byte> bytes, std::string_view airport);
 
-// The same from the file. Throws std::runtime_error with the file's name if it is missing or unreadable.
+// The same from the file. Throws std::runtime_error with the file's name, the reason and the way to make it
+// if it is missing or unreadable.
 ProcedureList LoadProcedures(const AppFolder& home, ProcedureKind kind, std::string_view airport);
