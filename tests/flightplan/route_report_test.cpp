@@ -38,7 +38,7 @@ TEST(RouteReport, SaysWhyTheAirwayBuilderFailed) {
         "360 NM from it"}},
       {"the network leads away",
        "A 0 0.3\nB 0 -3\nA --198-> B V1\n",
-       {"Low altitude route EDDA to EDDB: 2 fixes of the low network within 290 NM of EDDA, none of which "
+       {"Low altitude route EDDA to EDDB: 1 fix of the low network within 290 NM of EDDA, none of which "
         "has "
         "a link within 60° of the course 090°"}},
       {"only the high network",
