@@ -75,7 +75,7 @@ FuelSegments ComputeFuelSegments(const FlightPlan& plan, const PlanContext& cont
 }
 
 FuelFigures CalculateFuel(const FlightPlan& plan, const PlanContext& context) {
-  if (plan.TotalMinutes == 0) throw std::domain_error("the plan takes no time: there is no fuel to plan");
+  if (plan.TotalMinutes == 0) throw std::domain_error("the plan takes no time");
   const FuelSegments segments = ComputeFuelSegments(plan, context);
   for (const float part : {segments.climb, segments.cruise, segments.descent, segments.approach})
     if (!std::isfinite(part)) throw std::domain_error("the aircraft's data give no fuel figures");

@@ -5,13 +5,15 @@
 // frmMap.cpp has the window and the view, frmMap_menus.cpp the menus, bars and
 // keys, frmMap_panels.cpp the status panels, frmMap_gestures.cpp what the
 // pointer does on the map, frmMap_plan_gestures.cpp what it does there to the
-// plan, frmMap_plan.cpp the plan, frmMap_profile.cpp its vertical picture.
+// plan, frmMap_plan.cpp the plan, frmMap_profile.cpp its vertical picture,
+// frmMap_aircraft.cpp the aircraft and their fuel.
 #pragma once
 
 #include <QAction>
 #include <QActionGroup>
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 #include <functional>
 #include <map>
@@ -31,6 +33,8 @@
 #include "windows/route_field.h"
 #include "windows/status_strip.h"
 #include "windows/toggle_ribbon.h"
+
+class frmFuel;
 
 class frmMap : public QMainWindow {
   Q_OBJECT
@@ -57,6 +61,7 @@ class frmMap : public QMainWindow {
   void BuildMenus();
   void BuildPlanMenu();
   void BuildAircraftMenu();
+  void ListAircraft();
   void BuildViewMenu();
   void BuildPanelsMenu(QMenu* view);
   void BuildLabelsMenu();
@@ -161,6 +166,8 @@ class frmMap : public QMainWindow {
   void TakeRouteText();
   void SavePlan();
   QString PlanFolder() const;
+  void ShowAircraft();
+  void ShowFuel();
   void ShowAbout();
 
   // There is no link to a simulator yet.
@@ -182,7 +189,8 @@ class frmMap : public QMainWindow {
   pnlFlightplan* panel;
   RouteField* txtRoute;
   std::map<QString, QAction*> actions;  // by menu name
-  QActionGroup* aircraftGroup;
+  QActionGroup* aircraftGroup;          // belongs to its menu
+  QPointer<frmFuel> fuel;               // while it is open
   QTimer tmrClock;
   QTimer tmrMousePos;
   QTimer tmrModeName;  // runs while panel 5 shows its mode's name

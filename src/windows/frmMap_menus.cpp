@@ -79,8 +79,12 @@ void frmMap::BuildPlanMenu() {
       "mnuUndo", tr("&Undo"), [this] { editor.Undo(); }, "Ctrl+Z"));
   plan->addAction(AddCommand(
       "mnuRedo", tr("Re&do"), [this] { editor.Redo(); }, "Ctrl+Y"));
+  plan->addSeparator();
   plan->addAction(
       AddCommand("mnuDeleteEnrouteWPs", tr("Delete all &waypoints"), [this] { editor.DeleteEnrouteWPs(); }));
+  plan->addSeparator();
+  plan->addAction(AddCommand(
+      "mnuFuel", tr("&Fuel..."), [this] { ShowFuel(); }, "F2"));
   plan->addSeparator();
   plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { editor.NewPlan(); }));
   plan->addAction(AddCommand(
@@ -93,16 +97,11 @@ void frmMap::BuildPlanMenu() {
 void frmMap::BuildAircraftMenu() {
   QMenu* menu = menuBar()->addMenu(tr("Air&craft"));
   menu->setObjectName("mnuAircraft");
-  aircraftGroup = new QActionGroup(this);
-  for (const AircraftRec& aircraft : session.aircraftList) {
-    QAction* action = menu->addAction(QString::fromStdString(aircraft.Name));
-    action->setObjectName(QString("mnuAircraft(%1)").arg(aircraft.Number));
-    action->setCheckable(true);
-    action->setChecked(aircraft.Number == session.aircraft.Number);
-    aircraftGroup->addAction(action);
-    connect(action, &QAction::triggered, this, [this, &aircraft] { editor.TakeAircraft(aircraft); });
-  }
-  menu->setEnabled(!session.aircraftList.empty());
+  menu->addAction(AddCommand(
+      "mnuAircraftList", tr("&List of aircraft..."), [this] { ShowAircraft(); }, "F3"));
+  menu->addSeparator();
+  aircraftGroup = new QActionGroup(menu);
+  ListAircraft();
 }
 
 void frmMap::BuildViewMenu() {
@@ -250,6 +249,7 @@ void frmMap::BuildToolBar() {
   AddButton(bar, actions["mnuCreateLoAlt"], "cmdLoAlt", tr("Low route"), "low_route");
   AddButton(bar, actions["mnuCreateHiAlt"], "cmdHiAlt", tr("High route"), "high_route");
   AddButton(bar, actions["mnuInsertWP"], "cmdInsertWP", {}, "insert_waypoint");
+  AddButton(bar, actions["mnuFuel"], "cmdFuel", tr("Fuel"), "fuel");
   AddButton(bar, actions["mnuSaveFPAs"], "cmdSaveFPAs", tr("Save"), "save");
   bar->addSeparator();
   AddButton(bar, actions["mnuZoomIn"], "cmdZoom", {}, "zoom_in");

@@ -60,6 +60,12 @@ QPushButton:default { background: #2b65ab; border-color: #3a78c2; color: #ffffff
 QPushButton:default:hover { background: #3273c0; }
 QPushButton:disabled { background: #1a212c; border-color: #262f3c; color: #5c6676; }
 QLineEdit { background: #0d1118; border: 1px solid #334155; border-radius: 5px; padding: 7px 9px; selection-background-color: #2b65ab; }
+QListWidget#lstAircraft { background: #0f141c; border: 1px solid #232c3a; border-radius: 5px; padding: 4px; outline: none; }
+QListWidget#lstAircraft:focus { border-color: #4084d6; }
+QListWidget#lstAircraft::item { padding: 6px 8px; border-radius: 4px; }
+QListWidget#lstAircraft::item:selected { background: #1f3a5e; color: #ffffff; }
+QListWidget#lstAircraft::item:disabled { color: #5c6676; }
+QLineEdit[readOnly="true"] { background: transparent; border-color: #232c3a; }
 QLineEdit:focus { border-color: #4084d6; }
 QLineEdit[fault="true"], QLineEdit[fault="true"]:focus { border-color: #a85a50; }
 QComboBox { background: #0d1118; border: 1px solid #334155; border-radius: 5px; padding: 6px 9px; }

@@ -4,6 +4,8 @@
 
 #include <random>
 
+#include "flightplan/aircraft_list.h"
+
 namespace {
 
 const std::string skylane = "1,\"Cessna 182\",260,181,1406,880,250,920,80,500,110,145,80,70,3500,773";
@@ -167,6 +169,61 @@ TEST(ReadAircraft, SetsTheApproachAltitude) {
     aircraft.ApproachAltitude = 1;
     EXPECT_EQ(ReadAircraft({aircraft}, 1)->ApproachAltitude, c.altitude) << c.speed;
   }
+}
+
+TEST(AircraftList, GivesNewOnesTheFirstFreeNumber) {
+  std::vector<AircraftRec> list(3);
+  EXPECT_EQ(FreeAircraftNumber({}), 1);
+  list[0].Number = 2;
+  list[1].Number = 1;
+  list[2].Number = 32767;
+  EXPECT_EQ(FreeAircraftNumber(list), 3);
+  list.assign(32767, {});
+  for (std::size_t i = 0; i < list.size(); ++i)
+    list[i].Number = static_cast<std::int16_t>(i + 1);
+  EXPECT_EQ(FreeAircraftNumber(list), 0);
+  list[32766].Number = 0;
+  EXPECT_EQ(FreeAircraftNumber(list), 32767);
+}
+
+TEST(AircraftList, IsPrintedLineByLine) {
+  AircraftRec a;
+  a.Name = "Twin";
+  a.CruiseFlightLevel = 250;
+  a.MaxFuel = 1000;
+  a.Ceiling = 300;
+  a.MaxWeight = 9000;
+  a.LoadWeight = 800;
+  a.EmptyWeight = 6000;
+  a.ClimbRate = 1500;
+  a.ClimbSpeed = 180;
+  a.DescentRate = 1200;
+  a.DescentSpeed = 200;
+  a.CruiseSpeed = 280;
+  a.ApproachSpeed = 110;
+  const std::vector<std::string> one = {"Aircraft: Twin",
+                                        "Cruise Flight Level: 250",
+                                        "Maximum Fuel: 1000 kg",
+                                        "Ceiling: 300",
+                                        "Max Weight: 9000 kg",
+                                        "Load Weight: 800 kg",
+                                        "Empty Weight: 6000 kg",
+                                        "Climb: ",
+                                        "Rate: 1500 ft/min",
+                                        "Speed: 180 kts",
+                                        "Descent: ",
+                                        "Rate: 1200 ft/min",
+                                        "Speed: 200 kts",
+                                        "Cruise: ",
+                                        "Speed: 280 kts",
+                                        "Approach: ",
+                                        "Speed: 110 kts"};
+  EXPECT_EQ(AircraftLines({a}), one);
+  std::vector<std::string> two = one;
+  two.emplace_back();
+  two.insert(two.end(), one.begin(), one.end());
+  EXPECT_EQ(AircraftLines({a, a}), two);
+  EXPECT_TRUE(AircraftLines({}).empty());
 }
 
 }  // namespace
