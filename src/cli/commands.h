@@ -29,3 +29,10 @@ struct PlanRequest {
 };
 
 int RunPlan(const CliOptions& options, const PlanRequest& request);
+
+struct OpenRequest {
+  std::string file;    // a .pln file of ours
+  std::string saveAs;  // as in PlanRequest
+};
+
+int RunOpen(const CliOptions& options, const OpenRequest& request);

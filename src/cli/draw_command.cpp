@@ -11,6 +11,7 @@
 
 #include "base/files.h"
 #include "base/numbers.h"
+#include "cli/plan_output.h"
 #include "flightplan/plan_layers.h"
 #include "map/draw_map.h"
 #include "settings/settings_file.h"
@@ -25,7 +26,7 @@ int WrongUsage(const std::string& reason) {
   std::fprintf(
       stderr,
       "velmora-cli: %s\nUsage: velmora-cli draw [--center LAT,LON] [--range NM | --zoom INDEX] [--size WxH] "
-      "[--layers A,B,C] --out FILE.png\n",
+      "[--layers A,B,C] [--plan FILE.pln] --out FILE.png\n",
       reason.c_str());
   return exitWrongUsage;
 }
@@ -47,6 +48,7 @@ void TakeCenter(const std::string& text, DrawRequest& request) {
     throw CLI::ValidationError("--center", "expects LAT,LON in degrees, such as 50.03,8.57");
   request.centerLat = *lat;
   request.centerLon = *lon;
+  request.centerGiven = true;
 }
 
 // "1600x1000" into the request.
@@ -128,6 +130,25 @@ void PrintResult(const CliOptions& options, const DrawRequest& request, const Ma
               view.RangeNM(), drawMs);
 }
 
+// The plan that is asked for; false after telling why it cannot be shown.
+bool ReadPlanFor(const CliOptions& options, const DrawRequest& request, const Settings& settings,
+                 const NavDatabase& database, FlightPlan& plan) {
+  if (request.planFile.empty()) return true;
+  const auto aircraft = ChooseAircraft(options, settings, std::nullopt);
+  if (!aircraft) return false;
+  CliMessages messages;
+  return OpenPlan(request.planFile, plan, {database, *aircraft, messages, settings.FAFDIST});
+}
+
+// What the picture shows of the page.
+VisiblePage VisibleOf(const DrawRequest& request) {
+  const PagePlacement placement(request.width, request.height);
+  const SurfacePoint corner = placement.ToUnits({0, 0});
+  const SurfacePoint opposite =
+      placement.ToUnits({static_cast<double>(request.width), static_cast<double>(request.height)});
+  return {opposite.x - corner.x, opposite.y - corner.y};
+}
+
 }  // namespace
 
 void AddDrawCommand(CLI::App& app, DrawRequest& request) {
@@ -151,16 +172,15 @@ void AddDrawCommand(CLI::App& app, DrawRequest& request) {
 }
 
 int RunDraw(const CliOptions& options, const DrawRequest& request) {
-  if (!request.planFile.empty()) return Fail("draw --plan: saved plans cannot be read yet");
   const Settings settings = ReadIni(options.home).settings;
   const int row = RowOf(request, settings.SCALE);
   if (row < 0) return WrongUsage("no row of the zoom table has that range or index");
-  const FlightPlan plan;
+  FlightPlan plan;
   std::string unknown;
   const std::vector<MapLayer> layers = ChosenLayers(request, plan, unknown);
   if (!unknown.empty()) return WrongUsage("unknown layer \"" + unknown + "\"");
   const std::optional<WorldLoad> world = OpenWorld(options);
-  if (!world) return exitNotDone;
+  if (!world || !ReadPlanFor(options, request, settings, world->database, plan)) return exitNotDone;
 
   qputenv("QT_QPA_PLATFORM", "offscreen");
   int argc = 1;
@@ -169,6 +189,8 @@ int RunDraw(const CliOptions& options, const DrawRequest& request) {
   const QGuiApplication application(argc, argv);
   MapView view =
       MapView::At(static_cast<float>(request.centerLat), static_cast<float>(request.centerLon), row);
+  if (!request.centerGiven && !request.rangeNM && !request.zoomIndex)
+    ShowWholePlan(plan, view, VisibleOf(request));
   view.MapMagVar = world->database.magneticVariation.MagVarLookup(view.MapCenterLat, view.MapCenterLon);
   modDeclutter labels;
   MapSwitches switches;

@@ -11,12 +11,13 @@
 struct DrawRequest {
   double centerLat = 50;
   double centerLon = 8.5;
+  bool centerGiven = false;
   std::optional<int> rangeNM;    // a range of the zoom table
   std::optional<int> zoomIndex;  // or its row; neither: the settings' row
   int width = 1600;
   int height = 1000;
   std::vector<std::string> layers;  // by their names; empty: those of the default switches
-  std::string planFile;             // empty: no plan
+  std::string planFile;             // empty: no plan; without a centre and a range it is shown whole
   std::string out;                  // a .png file
 };
 

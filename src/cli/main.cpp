@@ -18,6 +18,7 @@ struct CommandLine {
   std::string ident;
   std::vector<double> positions;
   PlanRequest plan;
+  OpenRequest open;
   bool direct = false;
   bool navaid = false;
   bool low = false;
@@ -88,6 +89,7 @@ int RunCommand(const CommandLine& line, const CLI::App& app, const CLI::App& pla
   if (app.got_subcommand("find")) return RunFind(options, line.ident);
   if (app.got_subcommand("course")) return RunCourse(options, line.positions);
   if (app.got_subcommand("aircraft")) return RunAircraft(options);
+  if (app.got_subcommand("open")) return RunOpen(options, line.open);
 #ifdef VELMORA_HAS_DRAW
   if (app.got_subcommand("draw")) return RunDraw(options, line.draw);
 #endif
@@ -107,6 +109,9 @@ void AddCommands(CLI::App& app, CommandLine& line) {
       ->expected(4)
       ->required();
   app.add_subcommand("aircraft", "The aircraft file");
+  CLI::App* open = app.add_subcommand("open", "A saved plan");
+  open->add_option("FILE", line.open.file, "The plan file (.pln)")->required();
+  open->add_option("--save", line.open.saveAs, "Save the plan as FILE.pln");
 #ifdef VELMORA_HAS_DRAW
   AddDrawCommand(app, line.draw);
 #endif

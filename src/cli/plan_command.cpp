@@ -1,12 +1,8 @@
-#include <algorithm>
 #include <iostream>
 
-#include "base/files.h"
 #include "base/numbers.h"
 #include "cli/commands.h"
-#include "cli/plan_document.h"
-#include "flightplan/aircraft_file.h"
-#include "flightplan/plan_file.h"
+#include "cli/plan_output.h"
 #include "flightplan/plan_rows.h"
 #include "flightplan/procedures.h"
 #include "flightplan/route_generation.h"
@@ -26,34 +22,6 @@ std::int32_t FindAirport(const NavDatabase& database, const std::string& code) {
     return -1;
   }
   return row;
-}
-
-std::optional<AircraftRec> ChooseAircraft(const CliOptions& options, const Settings& settings,
-                                          std::optional<int> wanted) {
-  const auto path = options.home.Resolve(aircraftFileName);
-  const AircraftFile file = ReadAircraftFile(path);
-  const auto hasWanted = [&](const AircraftRec& aircraft) { return aircraft.Number == *wanted; };
-  if (wanted && std::none_of(file.aircraft.begin(), file.aircraft.end(), hasWanted)) {
-    Fail("there is no aircraft number " + std::to_string(*wanted) + " in " + path.string());
-    return std::nullopt;
-  }
-  auto aircraft = ReadAircraft(file.aircraft, wanted.value_or(settings.AIRCRAFT));
-  if (!aircraft) Fail("there is no aircraft in " + path.string());
-  return aircraft;
-}
-
-void PrintForPeople(const FlightPlan& plan, const AircraftRec& aircraft) {
-  std::cout << Utf8(plan.rows.front().Code.View()) << " to " << Utf8(plan.rows.back().Code.View()) << "  "
-            << plan.TotalDistance << " NM  " << FormatMinutes(plan.TotalMinutes) << "  FL " << plan.CruiseFL
-            << "  " << aircraft.Name << "\n\n";
-  for (std::size_t i = 0; i < plan.rows.size(); ++i) {
-    const PlanWaypoint& row = plan.rows[i];
-    const std::string code = Utf8(row.Code.View());
-    const std::string airway = row.HasAirway() ? Utf8(row.Airway.View()) : "";
-    std::printf("%4zu  %-4s %-10s %-8s %6.1f NM  %s  %s  %s\n", i, Utf8(row.Sym.View()).c_str(), code.c_str(),
-                airway.c_str(), static_cast<double>(row.Dist), FormatPicture(row.Course, "000").c_str(),
-                FormatLat(row.Lat, 1).c_str(), FormatLon(row.Lon, 1).c_str());
-  }
 }
 
 // The text between the airports, or the whole string, as the whole string.
@@ -133,16 +101,7 @@ int RunPlan(const CliOptions& options, const PlanRequest& request) {
   if (!routeFirst) generated = MakeRoute(plan, context, request, settings);
   for (const std::string& line : report.lines)
     std::cerr << line << '\n';
-  if (options.json) {
-    PrintJson(PlanDocument(plan, context, settings.FUEL, messages.ToJson()));
-  } else {
-    PrintForPeople(plan, *aircraft);
-  }
+  PrintPlan(options, plan, context, settings.FUEL, messages);
   if (!generated) return Fail("the route could not be built");
-  if (request.saveAs.empty()) return exitDone;
-  std::string reason;
-  if (!ReplaceFile(request.saveAs, WritePlan(plan, world->database, PlanFormat::FS), &reason)) {
-    return Fail("the plan was not saved: " + reason);
-  }
-  return exitDone;
+  return request.saveAs.empty() ? exitDone : SavePlanAs(request.saveAs, plan, world->database);
 }

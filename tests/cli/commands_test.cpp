@@ -132,3 +132,27 @@ TEST(Cli, APlanIsPrintedAndSavedOrToldWhyNot) {
     EXPECT_EQ(Capture([&] { return RunPlan(JsonFor(home), request); }).exitCode, exitNotDone) << unknown;
   }
 }
+
+TEST(Cli, ASavedPlanIsOpenedAndSavedAgain) {
+  const SmallHome home;
+  PlanRequest request;
+  request.departure = "EDDF";
+  request.destination = "EDDM";
+  request.saveAs = (home.Path() / "first.pln").string();
+  const CommandRun made = Capture([&] { return RunPlan(JsonFor(home), request); });
+  const OpenRequest open{request.saveAs, (home.Path() / "second.pln").string()};
+  const CommandRun opened = Capture([&] { return RunOpen(JsonFor(home), open); });
+  ASSERT_EQ(opened.exitCode, exitDone) << opened.err;
+  EXPECT_EQ(opened.Document(), made.Document());
+  EXPECT_EQ(home.Folder().Read("second.pln"), home.Folder().Read("first.pln"));
+
+  home.Folder().Write("theirs.pln", "[Flightplan]\r\ntype=IFR\r\n");
+  for (const char* refused : {"theirs.pln", "missing.pln"}) {
+    const CommandRun run = Capture([&] {
+      return RunOpen(JsonFor(home), {(home.Path() / refused).string(), {}});
+    });
+    EXPECT_EQ(run.exitCode, exitNotDone);
+    EXPECT_TRUE(run.out.empty());
+    EXPECT_NE(run.err.find(refused), std::string::npos);
+  }
+}

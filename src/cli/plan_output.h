@@ -1,0 +1,28 @@
+// What the commands on plans share: the aircraft that flies them, the printed
+// plan, the saved file.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "cli/cli_output.h"
+#include "flightplan/aircraft.h"
+#include "flightplan/flight_plan.h"
+#include "flightplan/plan_context.h"
+#include "settings/settings.h"
+
+// The aircraft of this number, without one that of the settings; nothing after
+// telling that there is none.
+std::optional<AircraftRec> ChooseAircraft(const CliOptions& options, const Settings& settings,
+                                          std::optional<int> wanted);
+
+// The plan document, or the plan as a table for people.
+void PrintPlan(const CliOptions& options, const FlightPlan& plan, const PlanContext& context, int fuelUnit,
+               const CliMessages& messages);
+
+// Reads a saved plan; problems and messages go where they belong. False after
+// telling that plan is not the file's.
+bool OpenPlan(const std::string& path, FlightPlan& plan, const PlanContext& context);
+
+// Writes the plan file; the exit code.
+int SavePlanAs(const std::string& path, const FlightPlan& plan, const NavDatabase& database);

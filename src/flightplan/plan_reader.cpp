@@ -1,0 +1,244 @@
+#include "flightplan/plan_reader.h"
+
+#include <array>
+#include <map>
+#include <optional>
+
+#include "base/code_page.h"
+#include "base/numbers.h"
+#include "flightplan/object_rows.h"
+#include "flightplan/plan_legs.h"
+#include "flightplan/plan_rows.h"
+#include "flightplan/start_positions.h"
+#include "navdata/geodesy.h"
+
+namespace {
+
+constexpr std::size_t mostProblems = 100;
+
+// What the file says, before it meets a database.
+struct PlanText {
+  bool ours = false;
+  std::map<std::string, std::string, std::less<>> values;  // of the keys that are read, code page
+  std::map<int, PlanWaypoint> rows;
+  std::vector<std::string> problems;
+
+  std::string_view Value(std::string_view key) const {
+    const auto at = values.find(key);
+    return at == values.end() ? std::string_view{} : Trimmed(at->second);
+  }
+};
+
+constexpr std::array<std::string_view, 12> readKeys = {
+    "type", "alternate_name", "DepartAPCode", "DepartNum", "DepartID",   "DepartType", "DestAPCode",
+    "SID",  "STAR",           "DestRwy",      "DestRwyID", "DestRwyHead"};
+
+std::vector<std::string_view> Fields(std::string_view line) {
+  std::vector<std::string_view> fields;
+  for (std::size_t start = 0;;) {
+    const std::size_t comma = line.find(',', start);
+    fields.push_back(Trimmed(line.substr(start, comma - start)));
+    if (comma == std::string_view::npos) return fields;
+    start = comma + 1;
+  }
+}
+
+RowKind KindOf(std::string_view field) {
+  const std::uint8_t kind = ValByte(field);
+  return kind == 2 ? RowKind::star : kind == 3 ? RowKind::sid : RowKind::enroute;
+}
+
+bool IsOnEarth(const PlanWaypoint& row) {
+  return row.Lat >= -90 && row.Lat <= 90 && row.Lon >= -180 && row.Lon <= 180;
+}
+
+// Number, Sym, Code, Name, Lat, Lon, Freq, Course, MagVar, Kind, DbIndex and,
+// on an airway, its name and its limits. Nothing if the row cannot be used.
+std::optional<PlanWaypoint> WaypointOf(const std::vector<std::string_view>& fields) {
+  constexpr std::size_t always = 11;
+  if (fields.size() < always) return std::nullopt;
+  const auto number = [&](std::size_t i) { return static_cast<float>(Val(fields[i])); };
+  PlanWaypoint row;
+  row.Sym = fields[1];
+  row.Code = fields[2];
+  row.Name = fields[3];
+  row.Lat = number(4);
+  row.Lon = number(5);
+  row.Freq = number(6);
+  row.Course = number(7);
+  row.MagVar = number(8);
+  row.Kind = KindOf(fields[9]);
+  row.DbIndex = ValInt32(fields[10]);
+  if (fields.size() > always) row.Airway = fields[always];
+  if (fields.size() > always + 2) {
+    row.AirwayMinAlt = ValInt32(fields[always + 1]);
+    row.AirwayMaxAlt = ValInt32(fields[always + 2]);
+  }
+  if (!IsOnEarth(row)) return std::nullopt;
+  return row;
+}
+
+void Report(std::vector<std::string>& problems, const std::string& problem) {
+  if (problems.size() < mostProblems) problems.push_back(problem);
+}
+
+void TakeRow(PlanText& file, std::string_view fields, int line) {
+  const std::vector<std::string_view> values = Fields(fields);
+  const std::int32_t index = ValInt32(values.front());
+  const std::string where = "line " + std::to_string(line) + ": ";
+  if (index < 1 || index > lastRowInFile)
+    return Report(file.problems, where + "the number of the waypoint is not 1 to 500; it is left out");
+  const std::optional<PlanWaypoint> row = WaypointOf(values);
+  if (!row) return Report(file.problems, where + "the waypoint is not complete; it is left out");
+  file.rows[index] = *row;
+}
+
+void TakeLine(PlanText& file, std::string_view line, int number) {
+  if (line.starts_with("[VLM")) file.ours = true;
+  if (line.starts_with("WP=")) return TakeRow(file, line.substr(3), number);
+  const std::size_t equals = line.find('=');
+  if (equals == std::string_view::npos) return;
+  const std::string_view key = Trimmed(line.substr(0, equals));
+  for (const std::string_view read : readKeys)
+    if (key == read) file.values[std::string(key)] = line.substr(equals + 1);
+}
+
+PlanText ReadLines(std::string_view text) {
+  PlanText file;
+  int number = 0;
+  while (!text.empty()) {
+    const std::size_t end = text.find_first_of("\r\n");
+    TakeLine(file, text.substr(0, end), ++number);
+    if (end == std::string_view::npos) break;
+    const bool two = text.substr(end, 2) == "\r\n";
+    text.remove_prefix(end + (two ? 2 : 1));
+  }
+  return file;
+}
+
+// ---- meeting the database
+
+template <class Row>
+std::int32_t RowNear(const PlanWaypoint& waypoint, const IdentIndex& byIdent, const std::vector<Row>& table) {
+  for (std::int32_t row = byIdent.First(waypoint.Code.View()); row >= 0; row = byIdent.Next(row)) {
+    const Row& object = table[static_cast<std::size_t>(row)];
+    if (CutToInt(object.sngLat) == CutToInt(waypoint.Lat) &&
+        CutToInt(object.sngLon) == CutToInt(waypoint.Lon))
+      return row;
+  }
+  return -1;
+}
+
+bool IsUserFix(const PlanWaypoint& row) {
+  return row.Code.Raw().starts_with("Fix") && row.Name.Raw().starts_with("Fix");
+}
+
+// Finds the row's object in the database. False if it should be there and is not.
+bool FindObject(PlanWaypoint& row, const NavDatabase& database) {
+  std::int32_t found = row.DbIndex;
+  if (row.Sym == "Int") {
+    found = RowNear(row, database.intersectionsByIdent, database.intersections);
+    if (found >= 0)
+      row.Level = ObjectRow(database.intersections[static_cast<std::size_t>(found)], found).Level;
+  } else if (row.Sym == "VOR") {
+    found = RowNear(row, database.vorsByIdent, database.vors);
+  } else if (row.Sym == "NDB") {
+    found = RowNear(row, database.ndbsByIdent, database.ndbs);
+  } else if (row.Sym == "Fix" && !IsUserFix(row)) {
+    found = RowNear(row, database.fixesByIdent, database.fixes);
+  } else {
+    return true;
+  }
+  if (found < 0) return false;
+  row.DbIndex = found;
+  return true;
+}
+
+void ValidatePlan(FlightPlan& plan, const PlanContext& context, std::vector<std::string>& problems) {
+  for (int i = 1; i < plan.DestinationRow(); ++i) {
+    PlanWaypoint& row = plan.Row(i);
+    if (FindObject(row, context.database)) continue;
+    plan.MissingWaypoints = true;
+    Report(problems, CodePageToUtf8(row.Sym.View()) + " " + CodePageToUtf8(row.Code.View()) +
+                         " is not in the database near " + FormatLat(row.Lat, 1) + " " +
+                         FormatLon(row.Lon, 1));
+  }
+  if (plan.MissingWaypoints)
+    context.messages.Show(
+        "Some waypoints are missing in current database!\n      Flight plan cannot be modified or saved!",
+        MessageIcon::none);
+}
+
+std::int32_t AirportOf(const PlanText& file, std::string_view key, const PlanContext& context) {
+  const std::string_view code = file.Value(key);
+  const std::int32_t row = context.database.FindAirportByCode(code);
+  if (row >= 0 && row < context.database.AirportCount()) return row;
+  context.messages.Show(CodePageToUtf8(code) + " is not in currently loaded database!",
+                        MessageIcon::exclamation);
+  return -1;
+}
+
+// The start that the file names: by its number, else the airport's own position.
+void TakeStart(FlightPlan& plan, const PlanContext& context, const PlanText& file) {
+  const std::vector<StartPosition> starts = StartPositions(context.database, plan.DepartureIndex);
+  plan.DepartureNum = ValInt16(file.Value("DepartNum"));
+  plan.DepartureID = CodePageToUtf8(file.Value("DepartID"));
+  plan.DepartureType = std::string(file.Value("DepartType"));
+  const int chosen = FindStart(starts, plan);
+  if (chosen >= 0) SetStartPosition(plan, context, &starts[static_cast<std::size_t>(chosen)]);
+}
+
+// The airport of the file's alternate name, of several the one nearest to the destination.
+std::int32_t AlternateOf(const PlanText& file, const FlightPlan& plan, const NavDatabase& database) {
+  const std::string_view name = file.Value("alternate_name");
+  std::int32_t nearest = -1;
+  float least = 0;
+  for (std::int32_t row = 0; !name.empty() && row < database.AirportCount(); ++row) {
+    const AirportRec& airport = database.airports[static_cast<std::size_t>(row)];
+    if (airport.strName.View() != name) continue;
+    const float distance =
+        GreatCircleDistance(plan.DestinationLat, plan.DestinationLon, airport.sngLat, airport.sngLon);
+    if (nearest >= 0 && distance >= least) continue;
+    nearest = row;
+    least = distance;
+  }
+  return nearest;
+}
+
+void TakeRows(FlightPlan& plan, const PlanContext& context, const PlanText& file) {
+  for (const auto& [number, row] : file.rows)
+    plan.rows.insert(plan.rows.end() - 1, row);
+  for (int i = 1; i < plan.DestinationRow(); ++i) {
+    const float course = plan.Row(i).Course;
+    ComputeLeg(plan, context.aircraft, i);
+    plan.Row(i).Course = course;
+  }
+}
+
+}  // namespace
+
+PlanReading ReadPlan(FlightPlan& plan, const PlanContext& context, std::string_view text) {
+  PlanText file = ReadLines(text);
+  PlanReading reading;
+  reading.problems = std::move(file.problems);
+  if (!file.ours) {
+    context.messages.Show(" Sorry! This is not a valid VLM flight plan!", MessageIcon::exclamation);
+    return reading;
+  }
+  ClearFlightPlan(plan);
+  const std::int32_t departure = AirportOf(file, "DepartAPCode", context);
+  const std::int32_t destination = departure < 0 ? -1 : AirportOf(file, "DestAPCode", context);
+  if (destination < 0) return reading;
+  SetDepartureAndDestination(plan, context, departure, destination);
+  TakeStart(plan, context, file);
+  TakeRows(plan, context, file);
+  plan.SidName = CodePageToUtf8(file.Value("SID"));
+  plan.StarName = CodePageToUtf8(file.Value("STAR"));
+  if (file.Value("type") == "VFR") plan.PlanType = "VFR";
+  if (const std::int32_t alternate = AlternateOf(file, plan, context.database); alternate >= 0)
+    SetAlternate(plan, context, alternate);
+  RecomputePlan(plan, context);
+  ValidatePlan(plan, context, reading.problems);
+  reading.valid = true;
+  return reading;
+}
