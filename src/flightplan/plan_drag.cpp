@@ -156,6 +156,14 @@ void InsertIntoLeg(FlightPlan& plan, const PlanContext& context, int row, const 
   }
 }
 
+void DrawTargetRing(Position target, const MapView& view, const ColorSettings& colors, DrawSurface& surface) {
+  const StyleKeeper keeper(surface);
+  surface.ResetStyle();
+  surface.DrawWidth = 2;
+  surface.Circle(static_cast<float>(view.LonToX(target.lon)), static_cast<float>(view.LatToY(target.lat)),
+                 targetRing, colors.HILITE);
+}
+
 void DrawPlanDrag(const PlanDrag& drag, const FlightPlan& plan, const MapView& view,
                   const ColorSettings& colors, DrawSurface& surface) {
   if (!drag.moving || drag.hit.row >= plan.RowCount()) return;
@@ -169,6 +177,5 @@ void DrawPlanDrag(const PlanDrag& drag, const FlightPlan& plan, const MapView& v
   AppendLegLines(projection, target, PlaceOf(plan.Row(next)), lines);
   surface.DrawWidth = 2;
   surface.Lines(lines, colors.HILITE);
-  surface.Circle(static_cast<float>(projection.LonToX(target.lon)),
-                 static_cast<float>(projection.LatToY(target.lat)), targetRing, colors.HILITE);
+  DrawTargetRing(target, view, colors, surface);
 }

@@ -68,7 +68,9 @@ struct PlanDrag {
   PlanWaypoint target;  // what it would become here; while moving
 };
 
-// The lines from the neighbours to the target, and a ring around it, in colour
-// HILITE. Nothing while the drag is not moving.
+// A ring around the place that a pull or a click would take, in colour HILITE.
+void DrawTargetRing(Position target, const MapView& view, const ColorSettings& colors, DrawSurface& surface);
+
+// The lines from the neighbours to the target, and its ring. Nothing while the drag is not moving.
 void DrawPlanDrag(const PlanDrag& drag, const FlightPlan& plan, const MapView& view,
                   const ColorSettings& colors, DrawSurface& surface);

@@ -140,6 +140,7 @@ class frmMap : public QMainWindow {
   void TakeDrag(const PlanDrag& pulled);
   void ShowPlanPointer();
   void PlacePlanLabel();
+  bool HasInsertionPoint() const;
   void SetInserting(bool on);
   void InsertAt(float x, float y);
   void InsertManual(float x, float y);
@@ -200,7 +201,8 @@ class frmMap : public QMainWindow {
   MeasureLine measure;
   bool measureFollows = false;  // begun from the menu: the line follows without a button
   PlanDrag drag;
-  bool insertOnClick = false;  // the button went down to insert a waypoint, if it does not move
+  std::optional<Position> insertTarget;  // what a click would insert, while the insert mode is on
+  bool insertOnClick = false;            // the button went down to insert a waypoint, if it does not move
   HoverRest rest;
   std::vector<HoverLine> hoverLines;
   bool hoverSearched = false;  // since the pointer came to rest

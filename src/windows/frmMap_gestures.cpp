@@ -166,7 +166,7 @@ std::optional<PickedLeg> frmMap::Leg() const {
 void frmMap::FollowPointer() {
   ShowPointer();
   PlaceMapLabels();
-  const bool shown = measure.visible || box.BoxActive || drag.moving || LegPickIndex() >= 1;
+  const bool shown = measure.visible || box.BoxActive || drag.moving || insertTarget || LegPickIndex() >= 1;
   if (shown || overlayShown) Map->update();
   overlayShown = shown;
 }
@@ -198,6 +198,7 @@ void frmMap::DrawOverlay(DrawSurface& surface) {
   if (leg && pointerOnMap)
     DrawBearingLine(LegPickAnchor(*leg), pointerAt.x, pointerAt.y, {}, session.view, colors, surface);
   DrawPlanDrag(drag, session.plan, session.view, colors, surface);
+  if (insertTarget) DrawTargetRing(*insertTarget, session.view, colors, surface);
   DrawProfileMark(surface);
   DrawMeasureLine(measure, session.view, colors, surface, false);
   DrawDragBox(box, colors, surface);

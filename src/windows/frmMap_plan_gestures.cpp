@@ -7,6 +7,7 @@
 
 #include "base/code_page.h"
 #include "flightplan/plan_drag.h"
+#include "flightplan/plan_layers.h"
 #include "flightplan/waypoint_search.h"
 #include "windows/frmMap.h"
 
@@ -106,17 +107,23 @@ void frmMap::ShowPlanPointer() {
 
 // Beside the pointer: what the pulled waypoint, or a click that inserts, would be.
 void frmMap::PlacePlanLabel() {
-  const bool inserting = actions["mnuInsertWP"]->isChecked() && pointerOnMap && !box.BoxActive;
-  const bool shown = drag.moving || inserting;
-  if (shown) {
-    const auto row = drag.moving ? std::optional(drag.target)
-                                 : ShownWaypointAt(Question(pointerAt.x, pointerAt.y), insertRadius);
-    const std::string text = TargetText(row ? *row : ManualRow(session.database, PointerPosition()));
-    lblPlanDrag->setText(drag.moving ? ToQString(text) : tr("Insert %1").arg(ToQString(text)));
-    lblPlanDrag->adjustSize();
-    Map->PlaceLabel(*lblPlanDrag, Map->ToPixel(pointerAt.x, pointerAt.y), Qt::TopRightCorner);
+  const bool inserting =
+      actions["mnuInsertWP"]->isChecked() && pointerOnMap && !box.BoxActive && !drag.moving;
+  insertTarget.reset();
+  if (inserting && !HasInsertionPoint()) {
+    lblPlanDrag->setText(tr("Select the table row to insert behind"));
+  } else if (inserting) {
+    const auto shown = ShownWaypointAt(Question(pointerAt.x, pointerAt.y), insertRadius);
+    const PlanWaypoint row = shown ? *shown : ManualRow(session.database, PointerPosition());
+    insertTarget = PlaceOf(row);
+    lblPlanDrag->setText(tr("Insert %1").arg(ToQString(TargetText(row))));
+  } else if (drag.moving) {
+    lblPlanDrag->setText(ToQString(TargetText(drag.target)));
   }
-  lblPlanDrag->setVisible(shown);
+  lblPlanDrag->setVisible(inserting || drag.moving);
+  if (!lblPlanDrag->isVisible()) return;
+  lblPlanDrag->adjustSize();
+  Map->PlaceLabel(*lblPlanDrag, Map->ToPixel(pointerAt.x, pointerAt.y), Qt::TopRightCorner);
 }
 
 // ---- picking and inserting
@@ -145,10 +152,13 @@ void frmMap::InsertManual(float x, float y) {
   InsertRow(ManualRow(session.database, place));
 }
 
-void frmMap::InsertRow(const PlanWaypoint& row) {
+bool frmMap::HasInsertionPoint() const {
   const auto* table = panel->findChild<QTableView*>("grdWPTable");
-  if (table == nullptr || !table->selectionModel()->hasSelection())
-    return messages.Show(insertionPointText, MessageIcon::exclamation);
+  return table != nullptr && table->selectionModel()->hasSelection();
+}
+
+void frmMap::InsertRow(const PlanWaypoint& row) {
+  if (!HasInsertionPoint()) return messages.Show(insertionPointText, MessageIcon::exclamation);
   editor.InsertAfterSelection(row);
 }
 

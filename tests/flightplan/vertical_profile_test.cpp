@@ -244,6 +244,28 @@ TEST(ProfilePicture, WarnsOfAirwaysAboveTheLevel) {
   EXPECT_EQ(stepAt(180, 10000), quiet) << "at the level is high enough";
 }
 
+TEST(ProfilePicture, TintsTheProcedures) {
+  DrawnPlan drawn("airport EDDA 0 0 0\nairport EDDB 0 10 0");
+  drawn.plan.CruiseFL = 100;
+  const int plain = Picture(drawn.plan, drawn.context).surface.Count("polygon");
+  drawn.Add("Int", "S1", 0, 1, RowKind::sid);
+  drawn.Add("Int", "S2", 0, 2, RowKind::sid);
+  drawn.Add("Int", "A", 0, 5);
+  drawn.Add("Int", "T1", 0, 8, RowKind::star);
+  const Picture picture(drawn.plan, drawn.context);
+  std::vector<std::pair<double, double>> bands;
+  for (const auto& one : picture.surface.drawn)
+    if (one.what == "polygon" && one.points.size() == 4 && one.points[0].y == picture.scale.Top())
+      bands.emplace_back(picture.scale.DistanceAt(one.points[0].x),
+                         picture.scale.DistanceAt(one.points[1].x));
+  EXPECT_EQ(picture.surface.Count("polygon"), plain + 2);
+  ASSERT_EQ(bands.size(), 2u);
+  EXPECT_NEAR(bands[0].first, 0, 0.1);
+  EXPECT_NEAR(bands[0].second, 120, 0.1);
+  EXPECT_NEAR(bands[1].first, 480, 0.1) << "from the first row of the STAR";
+  EXPECT_NEAR(bands[1].second, 600, 0.1);
+}
+
 TEST(ProfilePicture, WithoutAFlightIsItsNote) {
   DrawnPlan drawn("airport EDDA 0 0 5434\nairport EDDB 0 10 0");
   drawn.plan.CruiseFL = 40;

@@ -154,8 +154,15 @@ TEST_F(PlanGestures, ClicksInsertBehindTheSelectedRow) {
   EXPECT_EQ(Codes(), "EDDA A B VVV C Z EDDB");
   QTest::keyClick(window.get(), Qt::Key_I, Qt::ControlModifier);
   EXPECT_TRUE(Find<QToolButton>("cmdInsertWP").isChecked());
+  PointAt(PixelOf(1, 1));
+  const QImage away = Shown();
   PointAt(PixelOf(1, 4.5F));
   EXPECT_EQ(Label().text(), "Insert VOR VVV");
+  EXPECT_NE(Shown(), away) << "what would be taken is ringed";
+  Table().clearSelection();
+  PointAt(PixelOf(1, 4.4F));
+  EXPECT_EQ(Label().text(), "Select the table row to insert behind");
+  Table().selectRow(3);
   PointAt(PixelOf(1, 5));
   EXPECT_TRUE(Label().text().startsWith("Insert N0")) << Label().text().toStdString();
   Click(PixelOf(1, 5));
