@@ -1,5 +1,6 @@
 #include "flightplan/airway_route.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -114,20 +115,17 @@ class RouteRun {
     for (;;) {
       const int entry = FindEntryFix(draft, context, insertionRow, level, SearchRadius);
       if (entry < 0) return false;
-      tries.push_back({entry, SearchRadius});
-      const float exitRadius = FindExitRadius(draft, context, insertionRow, level);
+      // The row that the route leads to is the same in every try, and so is its circle.
+      if (tries.empty()) exitRadius = FindExitRadius(draft, context, insertionRow, level);
       if (exitRadius < 0) return false;
       GiveWayTo(entry);
-      const PlanWaypoint& destination = draft.Row(insertionRow + 1);
-      const int end =
-          search.ShortestPathToPosition(entry, level, destination.Lat, destination.Lon, exitRadius);
-      if (end >= 0) {
+      if (const int end = EndOfRoute(entry); end >= 0) {
         InsertRoute(search.PathTo(end));
         return true;
       }
       if (SearchRadius > lastSearchRadius) {
         ReportNoWay(context, plan, firstRow, level, tries, exitRadius);
-        TellNoRoute(-end);
+        TellNoRoute(entry);
         return false;
       }
       SearchRadius += searchRadiusStep;
@@ -139,6 +137,16 @@ class RouteRun {
   const std::optional<AltitudeWarning>& Warning() const { return warning; }
 
  private:
+  // An entry from which there was no way has none in a later try either.
+  int EndOfRoute(int entry) {
+    const auto isThis = [entry](const AirwayTry& before) { return before.entry == entry; };
+    const bool failed = std::any_of(tries.begin(), tries.end(), isThis);
+    tries.push_back({entry, SearchRadius});
+    if (failed) return -entry;
+    const PlanWaypoint& destination = draft.Row(insertionRow + 1);
+    return search.ShortestPathToPosition(entry, level, destination.Lat, destination.Lon, exitRadius);
+  }
+
   // A row that is the entry fix itself comes back with the route.
   void GiveWayTo(int entry) {
     skipFirst = false;
@@ -184,6 +192,7 @@ class RouteRun {
   int firstRow;
   int insertionRow;
   std::vector<AirwayTry> tries;
+  float exitRadius = -1;
   float SearchRadius = firstSearchRadius;
   bool skipFirst = false;
   std::optional<AltitudeWarning> warning;
