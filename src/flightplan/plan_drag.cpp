@@ -127,9 +127,10 @@ PlanWaypoint ManualRow(const NavDatabase& database, Position place) {
 }
 
 std::string TargetText(const PlanWaypoint& row) {
-  const std::string name = CodePageToUtf8(row.Name.View());
+  std::string name = CodePageToUtf8(row.Name.View());
   if (row.Sym == "Uwp" && row.DbIndex < 0) return name;
-  std::string text = CodePageToUtf8(row.Sym.View()) + " " + CodePageToUtf8(row.Code.View());
+  std::string text = row.Sym == "Uwp" ? "" : CodePageToUtf8(row.Sym.View()) + " ";
+  text += CodePageToUtf8(row.Code.View());
   if (!name.empty() && row.Name.View() != row.Code.View()) text += " " + name;
   if (row.Freq > 0) text += " " + FormatPicture(row.Freq, "##0.00");
   return text;

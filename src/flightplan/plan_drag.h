@@ -44,8 +44,9 @@ std::optional<PlanWaypoint> ShownWaypointAt(const HoverQuestion& question, std::
 // "#", its coordinates as Name.
 PlanWaypoint ManualRow(const NavDatabase& database, Position place);
 
-// What is said of a waypoint that a click or a pull would bring, UTF-8: kind,
-// code, name and frequency, or the coordinates of a place without a navaid.
+// What is said of a waypoint that a click or a pull would bring, UTF-8: kind
+// (none for a user waypoint), code, name and frequency, or the coordinates of a
+// place without a navaid.
 std::string TargetText(const PlanWaypoint& row);
 
 // The pilot has chosen no row behind which a click on the map inserts.

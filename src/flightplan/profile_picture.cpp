@@ -58,7 +58,8 @@ std::string DistanceText(double distance) {
 // Hours are not wrapped: a flight may be longer than a day.
 std::string TimeText(double minutes) {
   const int whole = RoundToEven(minutes);
-  return FormatPicture(whole / 60, "00") + ":" + FormatPicture(whole % 60, "00");
+  const int hours = whole / 60;
+  return FormatPicture(hours, "00") + ":" + FormatPicture(whole - hours * 60, "00");
 }
 
 void PrintAt(DrawSurface& surface, float x, float y, std::string_view text, std::int32_t color) {

@@ -66,7 +66,8 @@ bool frmMap::EndPlanPress(float x, float y) {
   const PlanDrag press = std::exchange(drag, {});
   const bool inserts = std::exchange(insertOnClick, false);
   if (press.moving) {
-    TakeDrag(press);
+    // Let go beside the map the plan stays as it is.
+    if (Map->rect().contains(Map->ToPixel(x, y))) TakeDrag(press);
     return true;
   }
   if (x != press.begun.x || y != press.begun.y) return false;

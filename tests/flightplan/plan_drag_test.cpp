@@ -207,6 +207,11 @@ TEST(InsertIntoLeg, PartsIt) {
 TEST(PlanDrag, SaysAndShowsWhatItWouldTake) {
   const PulledPlan drawn;
   EXPECT_EQ(TargetText(Target("NEW", 1, 3)), "VOR NEW TARGET 114.20");
+  PlanWaypoint own = Target("HOME", 1, 3);
+  own.Sym = std::string_view("Uwp");
+  own.Freq = 0;
+  own.DbIndex = 0;
+  EXPECT_EQ(TargetText(own), "HOME TARGET");
   const PlanWaypoint manual = ManualRow(drawn.world.database, {50.5F, 8.25F});
   EXPECT_EQ(manual.Code, "#");
   EXPECT_EQ(manual.Sym, "Uwp");

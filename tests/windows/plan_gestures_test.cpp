@@ -105,6 +105,9 @@ TEST_F(PlanGestures, WhatIsNotPulled) {
   EXPECT_EQ(Codes(), "EDDA A B C Z EDDB") << "given up";
   EXPECT_EQ(session.view.MapCenterLon, 5);
 
+  DragFrom(from, QPoint(Map().width() + 50, 300));
+  EXPECT_EQ(Codes(), "EDDA A B C Z EDDB") << "let go beside the map";
+
   Trigger("mnuMeasure");
   DragFrom(from, from + QPoint(0, -60));
   EXPECT_EQ(Codes(), "EDDA A B C Z EDDB") << "measured";
