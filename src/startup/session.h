@@ -8,6 +8,7 @@
 #include "base/app_folder.h"
 #include "flightplan/aircraft.h"
 #include "flightplan/flight_plan.h"
+#include "flightplan/nav_log.h"
 #include "flightplan/plan_history.h"
 #include "map/map_selection.h"
 #include "map/map_switches.h"
@@ -28,6 +29,7 @@ struct Session {
   AircraftRec aircraft;  // the current one
   FlightPlan plan;
   PlanHistory planHistory;
+  NavLog navLog;
   MapView view;
   MapSwitches switches;
   MapSelection selection;

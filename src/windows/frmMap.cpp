@@ -53,18 +53,18 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   lblMeasure = AddMapLabel("lblMeasure");
   lblCourseRadial = AddMapLabel("lblCourseRadial");
   lblPlanDrag = AddMapLabel("lblPlanDrag");
-  panel = new pnlFlightplan(session.plan, middle);
   lblMapStatus = new StatusStrip(middle);
   auto* mapColumn = new QVBoxLayout;
   mapColumn->setSpacing(0);
   mapColumn->addWidget(Map, 1);
   BuildProfile(mapColumn);
   columns->addLayout(mapColumn, 1);
-  columns->addWidget(panel);
   rows->addLayout(columns, 1);
   rows->addWidget(lblMapStatus);
   setCentralWidget(middle);
   BuildMenus();
+  panel = new pnlFlightplan(session, actions["mnuLevelUp"], actions["mnuLevelDown"], middle);
+  columns->addWidget(panel);
   BuildToolBar();
   BuildRibbon();
   BuildKeys();
@@ -72,6 +72,8 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   ConnectCanvas();
   connect(panel, &pnlFlightplan::RowPicked, this, [this] { FollowPointer(); });
   connect(panel, &pnlFlightplan::DeleteAsked, &editor, &PlanEditor::DeleteRow);
+  connect(panel, &pnlFlightplan::RowCentred, this, &frmMap::CentreOnRow);
+  connect(panel, &pnlFlightplan::AlternateAsked, &editor, &PlanEditor::ReplaceArrival);
   connect(&editor, &PlanEditor::Changed, this, &frmMap::PlanChanged);
   connect(&editor, &PlanEditor::Started, this, &frmMap::ShowNewPlan);
   askPlanFile = [this](const QString& proposal) {

@@ -163,6 +163,7 @@ class frmMap : public QMainWindow {
   void PlanChanged();
   void ShowCommandStates();
   void ShowNewPlan();
+  void CentreOnRow(int row);
   void BuildRouteField(class QToolBar* bar);
   void TakeRouteText();
   void SavePlan();

@@ -41,7 +41,7 @@ void frmMap::ShowFuel() {
     if (fuel.isNull()) {
       fuel = new frmFuel(session, editor, this);
       fuel->setAttribute(Qt::WA_DeleteOnClose);
-      connect(fuel, &frmFuel::UnitChanged, panel, &pnlFlightplan::Refresh);
+      connect(fuel, &frmFuel::UnitChanged, panel, [this] { panel->Refresh(editor.States()); });
     }
     fuel->show();
     fuel->raise();

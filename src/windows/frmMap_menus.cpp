@@ -85,6 +85,10 @@ void frmMap::BuildPlanMenu() {
   plan->addSeparator();
   plan->addAction(AddCommand(
       "mnuFuel", tr("&Fuel..."), [this] { ShowFuel(); }, "F2"));
+  plan->addAction(AddCommand(
+      "mnuLevelUp", tr("Raise &the cruise level"), [this] { editor.StepLevel(true); }, "Ctrl+Up"));
+  plan->addAction(AddCommand(
+      "mnuLevelDown", tr("Low&er the cruise level"), [this] { editor.StepLevel(false); }, "Ctrl+Down"));
   plan->addSeparator();
   plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { editor.NewPlan(); }));
   plan->addAction(AddCommand(
@@ -135,6 +139,11 @@ void frmMap::BuildViewMenu() {
 void frmMap::BuildPanelsMenu(QMenu* view) {
   view->addAction(AddToggle(
       "mnuShowPlan", tr("Fligh&t plan panel"), true, [this](bool) { PlanChanged(); }, "F4"));
+  view->addAction(AddToggle(
+      "mnuExtTable", tr("E&xtended table"), false, [this](bool on) { panel->SetExtended(on); }, "Shift+F4"));
+  view->addAction(AddToggle(
+      "mnuShowCoords", tr("Coor&dinates in the table"), false, [this](bool on) { panel->ShowCoords(on); },
+      "Ctrl+Shift+O"));
   QAction* profile = AddToggle(
       "mnuProfile", tr("&Vertical picture"), !session.switches.profileChosen || session.switches.mnuProfile,
       [this](bool) { ShowProfile(); }, "F5");

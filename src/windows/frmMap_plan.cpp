@@ -22,6 +22,9 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuCreateHiAlt", &PlanCommandStates::createRoute},
     {"mnuInsertWP", &PlanCommandStates::editRows},
     {"mnuSaveFPAs", &PlanCommandStates::save},
+    {"mnuLevelUp", &PlanCommandStates::stepLevel},
+    {"mnuLevelDown", &PlanCommandStates::stepLevel},
+    {"mnuExtTable", &PlanCommandStates::extendedTable},
     {"mnuUndo", &PlanCommandStates::undo},
     {"mnuRedo", &PlanCommandStates::redo},
 };
@@ -79,7 +82,7 @@ void frmMap::PlanChanged() {
     ShowCommandStates();
     txtRoute->setText(QString::fromStdString(editor.RouteText()));
     txtRoute->setCursorPosition(0);  // a long one shows its beginning
-    panel->Refresh();
+    panel->Refresh(editor.States());
     ShowProfile();
     GiveUpPlanPress();
     panel->setVisible(session.plan.RowCount() > 0 && actions["mnuShowPlan"]->isChecked());
@@ -93,6 +96,16 @@ void frmMap::ShowCommandStates() {
   for (const auto& [name, state] : commandStates)
     actions[name]->setEnabled(states.*state);
   if (!states.editRows) actions["mnuInsertWP"]->setChecked(false);
+  // The table goes back to its normal layout where it may not have the other.
+  if (!states.extendedTable) actions["mnuExtTable"]->setChecked(false);
+}
+
+void frmMap::CentreOnRow(int row) {
+  Trapped("frmMap grdWPTable (", [&] {
+    session.view.MapCenterLat = session.plan.Row(row).Lat;
+    session.view.MapCenterLon = session.plan.Row(row).Lon;
+    CentreMoved();
+  });
 }
 
 void frmMap::ShowNewPlan() {

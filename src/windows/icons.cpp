@@ -42,9 +42,27 @@ class LineIconEngine : public QIconEngine {
 
 }  // namespace
 
-QIcon LineIcon(const QString& name) {
+static QByteArray Drawing(const QString& name) {
   LoadIcons();
   QFile file(":/icons/" + name + ".svg");
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  return QIcon(new LineIconEngine(file.readAll()));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QIcon LineIcon(const QString& name) {
+  const QByteArray drawing = Drawing(name);
+  return drawing.isEmpty() ? QIcon() : QIcon(new LineIconEngine(drawing));
+}
+
+QPixmap LinePicture(const QString& name, const QColor& color, int size, qreal scale) {
+  QByteArray drawing = Drawing(name);
+  if (drawing.isEmpty()) return {};
+  drawing.replace("currentColor", color.name().toLatin1());
+  drawing.replace("stroke-width=\"1.6\"", "stroke-width=\"2.1\"");
+  QPixmap picture(QSizeF(size * scale, size * scale).toSize());
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  QSvgRenderer(drawing).render(&painter);
+  painter.end();
+  picture.setDevicePixelRatio(scale);
+  return picture;
 }

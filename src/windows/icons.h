@@ -8,3 +8,8 @@
 
 // The drawing assets/icons/NAME.svg. An unknown name gives a null icon.
 QIcon LineIcon(const QString& name);
+
+// The same drawing with stronger lines, for pictures that are too small for
+// its own: size pixels wide and high, sharp at a screen's scale. An unknown
+// name gives an empty picture.
+QPixmap LinePicture(const QString& name, const QColor& color, int size, qreal scale);

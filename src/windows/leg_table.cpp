@@ -12,9 +12,10 @@
 
 namespace {
 
-constexpr int rowHeight = 26;
+constexpr int heightOfRow = 26;
 constexpr int pictureSize = 14;
-constexpr int cellPadding = 7;
+constexpr int cellPadding = 5;  // as the style sheet has it, the text margin with it
+constexpr int slack = 2;
 constexpr int twipsPerPixel = 15;
 
 struct ColumnLook {
@@ -23,8 +24,8 @@ struct ColumnLook {
   bool right;
 };
 constexpr std::array<ColumnLook, legColumns> columnLooks = {{{400, "", false},
-                                                             {850, "Fix 000", false},
-                                                             {2000, "", false},
+                                                             {850, "MUMMO", false},
+                                                             {2000, "PELIX (UN852 245-660)", false},
                                                              {700, "000.000", true},
                                                              {850, "000°/000°", true},
                                                              {750, "0000 NM", true},
@@ -33,6 +34,8 @@ constexpr std::array<ColumnLook, legColumns> columnLooks = {{{400, "", false},
                                                              {800, "000 kt", true},
                                                              {1000, "00000 ft", true},
                                                              {1500, "000000 / 100%", true}}};
+
+constexpr const char* widestPosition = "N00°00.0000' W000°00.0000'";
 
 constexpr int Number(LegColumn column) {
   return static_cast<int>(column);
@@ -43,19 +46,27 @@ QVariant Alignment(int column) {
   return QVariant(Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft));
 }
 
-// The drawings of imgNavaid by picture number.
-constexpr std::array<const char*, 12> pictureNames = {
-    "vor",          "ndb", "intersection", "fix",         "vor",           "ndb",
-    "intersection", "fix", "departure",    "destination", "user_waypoint", "user_waypoint"};
-
-QColor PictureColor(int picture) {
-  if (picture == 8 || picture == 9) return AirportColor();
-  return picture >= 4 && picture <= 7 || picture == 11 ? ProcedureColor() : EnrouteColor();
-}
+// imgNavaid by picture number.
+struct PictureLook {
+  const char* drawing;
+  QColor (*color)();
+};
+constexpr std::array<PictureLook, 12> pictureLooks = {{{"vor", EnrouteColor},
+                                                       {"ndb", EnrouteColor},
+                                                       {"intersection", EnrouteColor},
+                                                       {"fix", EnrouteColor},
+                                                       {"vor", ProcedureColor},
+                                                       {"ndb", ProcedureColor},
+                                                       {"intersection", ProcedureColor},
+                                                       {"fix", ProcedureColor},
+                                                       {"departure", AirportColor},
+                                                       {"destination", AirportColor},
+                                                       {"user_waypoint", EnrouteColor},
+                                                       {"user_waypoint", ProcedureColor}}};
 
 QPixmap Picture(int number, qreal scale) {
-  return LinePicture(pictureNames.at(static_cast<std::size_t>(number)), PictureColor(number), pictureSize,
-                     scale);
+  const PictureLook& look = pictureLooks.at(static_cast<std::size_t>(number));
+  return LinePicture(look.drawing, look.color(), pictureSize, scale);
 }
 
 // Draws the picture in its column's middle, and a name with the airway note
@@ -182,11 +193,13 @@ LegTable::LegTable(FlightPlan& plan, LegCells& cells, const Settings& settings, 
   setWordWrap(false);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   verticalHeader()->hide();
-  verticalHeader()->setDefaultSectionSize(rowHeight);
+  verticalHeader()->setDefaultSectionSize(heightOfRow);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setMinimumSectionSize(pictureSize + 2 * cellPadding);
   horizontalHeader()->setSectionResizeMode(Number(LegColumn::name), QHeaderView::Stretch);
-  SetColumnWidths();
+  ensurePolished();
+  for (int column = 0; column < legColumns; ++column)
+    setColumnWidth(column, WidthFor(column));
   SetExtended(false);
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { TakeSelection(); });
   connect(this, &QTableView::clicked, this, &LegTable::RowClicked);
@@ -195,25 +208,21 @@ LegTable::LegTable(FlightPlan& plan, LegCells& cells, const Settings& settings, 
   });
 }
 
-void LegTable::SetColumnWidths() {
-  ensurePolished();
+int LegTable::WidthFor(int column) const {
+  const ColumnLook& look = columnLooks.at(static_cast<std::size_t>(column));
+  const bool position = column == Number(LegColumn::name) && cells.showCoords;
   const QFontMetrics font = fontMetrics();
-  for (int column = 0; column < legColumns; ++column) {
-    const ColumnLook& look = columnLooks.at(static_cast<std::size_t>(column));
-    const QString heading = model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-    const int text =
-        std::max(font.horizontalAdvance(QString::fromUtf8(look.widest)), font.horizontalAdvance(heading));
-    setColumnWidth(column, std::max(look.twips / twipsPerPixel, text + 2 * cellPadding));
-  }
+  const QString heading = model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+  const int text =
+      std::max(font.horizontalAdvance(QString::fromUtf8(position ? widestPosition : look.widest)),
+               font.horizontalAdvance(heading));
+  return std::max(look.twips / twipsPerPixel, text + 2 * cellPadding + slack);
 }
 
 int LegTable::LayoutWidth() const {
   int width = verticalScrollBar()->sizeHint().width();
-  for (int column = 0; column < legColumns; ++column) {
-    const bool stretched = column == Number(LegColumn::name);
-    if (!isColumnHidden(column))
-      width += stretched ? columnLooks[Number(LegColumn::name)].twips / twipsPerPixel : columnWidth(column);
-  }
+  for (int column = 0; column < legColumns; ++column)
+    if (!isColumnHidden(column)) width += WidthFor(column);
   return width;
 }
 

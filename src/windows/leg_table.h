@@ -41,7 +41,8 @@ class LegTable : public QTableView {
 
   // Shows the plan as it is now and selects its SelectedRow; 0 selects nothing.
   void Refresh();
-  // Pixels that all columns of the present layout need, the scroll bar beside them.
+  // Pixels that the columns of the present layout need, and the scroll bar beside
+  // them; the name column takes what there is more.
   int LayoutWidth() const;
   // The extended layout has the columns of the flight.
   void SetExtended(bool on);
@@ -60,7 +61,8 @@ class LegTable : public QTableView {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void SetColumnWidths();
+  // Of a column at the least, by its content and the font.
+  int WidthFor(int column) const;
   void TakeSelection();
   void RowClicked(const QModelIndex& index);
 

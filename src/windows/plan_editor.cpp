@@ -1,6 +1,7 @@
 #include "windows/plan_editor.h"
 
 #include "base/error_trap.h"
+#include "flightplan/cruise_level.h"
 #include "flightplan/plan_drag.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
@@ -27,6 +28,7 @@ void PlanEditor::Trapped(std::string_view head, const std::function<void()>& bod
 void PlanEditor::Tell() {
   routeText = RouteStringFromPlan(session.plan);
   session.planHistory.Changed(session.plan);
+  KeepWithRows(session.navLog, session.plan);
   Q_EMIT Changed();
 }
 
@@ -44,7 +46,10 @@ void PlanEditor::Change(std::string_view head, const std::function<void()>& chan
 void PlanEditor::StartPlan(int departureRow, int destinationRow) {
   constexpr std::string_view head = "frmMap SelectAirports (";
   fromRouteString = false;
-  Change(head, [&] { SetDepartureAndDestination(session.plan, Context(), departureRow, destinationRow); });
+  Change(head, [&] {
+    session.navLog = {};
+    SetDepartureAndDestination(session.plan, Context(), departureRow, destinationRow);
+  });
   if (session.plan.RowCount() >= 2) Q_EMIT Started();
 }
 
@@ -78,7 +83,10 @@ void PlanEditor::GenerateRoute(AirwayNetwork network) {
 
 void PlanEditor::TakeRoute(const std::string& text) {
   fromRouteString = true;
-  Change("frmMap cmdRoute (", [&] { ParseRoute(session.plan, Context(), text); });
+  Change("frmMap cmdRoute (", [&] {
+    session.navLog = {};
+    ParseRoute(session.plan, Context(), text);
+  });
   if (session.plan.RowCount() >= 2) Q_EMIT Started();
 }
 
@@ -104,6 +112,20 @@ void PlanEditor::MoveRow(int row, const PlanWaypoint& target) {
 
 void PlanEditor::InsertBefore(int row, const PlanWaypoint& target) {
   Change("frmMap Map_MouseUp (", [&] { InsertIntoLeg(session.plan, Context(), row, target); });
+}
+
+void PlanEditor::StepLevel(bool up) {
+  Change("frmMap updnFL (", [&] {
+    if (up) {
+      RaiseCruiseLevel(session.plan, Context());
+    } else {
+      LowerCruiseLevel(session.plan);
+    }
+  });
+}
+
+void PlanEditor::ReplaceArrival() {
+  Change("frmMap grdWPTable (", [&] { AskReplaceArrivalByAlternate(session.plan, Context()); });
 }
 
 void PlanEditor::NewPlan() {

@@ -53,6 +53,9 @@ class PlanEditor : public QObject {
   // A waypoint pulled to another place, and one pulled out of the leg that leads to row.
   void MoveRow(int row, const PlanWaypoint& target);
   void InsertBefore(int row, const PlanWaypoint& target);
+  void StepLevel(bool up);
+  // Asks whether the flight goes to the alternate instead.
+  void ReplaceArrival();
   void NewPlan();
   void Undo();
   void Redo();

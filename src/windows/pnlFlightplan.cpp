@@ -1,197 +1,202 @@
 #include "windows/pnlFlightplan.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QKeyEvent>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "base/code_page.h"
-#include "base/numbers.h"
-#include "flightplan/plan_legs.h"
-#include "navdata/geodesy.h"
+#include "flightplan/plan_figures.h"
+#include "windows/icons.h"
 
 namespace {
 
-constexpr int panelWidth = 500;
-
-QString Utf8(std::string_view codePageText) {
-  return QString::fromStdString(CodePageToUtf8(codePageText));
-}
+constexpr int sideMargin = 16;
+constexpr int tableMargin = 6;
 
 QString CodeAt(const FlightPlan& plan, int row) {
-  return Utf8(plan.Row(row).Code.View());
+  return QString::fromStdString(CodePageToUtf8(plan.Row(row).Code.View()));
 }
 
-// A figure with its quiet caption above.
-QLabel* AddFigure(QHBoxLayout* layout, const QString& caption, const QString& name) {
+QLabel* NewLabel(const QString& name, const char* look = nullptr) {
+  auto* label = new QLabel;
+  label->setObjectName(name);
+  if (look != nullptr) label->setProperty(look, true);
+  return label;
+}
+
+// A figure with its quiet caption above; what belongs beside it comes behind.
+QLabel* AddFigure(QHBoxLayout* row, const QString& caption, const QString& name, QWidget* beside = nullptr) {
   auto* column = new QVBoxLayout;
   column->setSpacing(1);
   auto* captionLabel = new QLabel(caption);
   captionLabel->setProperty("quiet", true);
-  auto* figure = new QLabel;
-  figure->setObjectName(name);
-  figure->setProperty("figure", true);
+  QLabel* figure = NewLabel(name, "figure");
+  auto* line = new QHBoxLayout;
+  line->setSpacing(7);
+  line->addWidget(figure);
+  if (beside != nullptr) line->addWidget(beside);
+  line->addStretch();
   column->addWidget(captionLabel);
-  column->addWidget(figure);
-  layout->addLayout(column);
+  column->addLayout(line);
+  row->addLayout(column);
   return figure;
+}
+
+// An empty figure stays empty; a quiet word tells that this is meant.
+void ShowOrNone(QLabel* figure, const std::string& text) {
+  figure->setText(QString::fromStdString(text));
+  auto* none = figure->parentWidget()->findChild<QLabel*>(figure->objectName() + "None");
+  figure->setVisible(!text.empty());
+  none->setVisible(text.empty());
+}
+
+QLabel* NoneLabel(const QString& figureName) {
+  QLabel* none = NewLabel(figureName + "None", "quiet");
+  none->setText(pnlFlightplan::tr("none"));
+  return none;
 }
 
 }  // namespace
 
-LegTableModel::LegTableModel(const FlightPlan& plan, QObject* parent)
-    : QAbstractTableModel(parent), plan(plan) {}
-
-void LegTableModel::Refresh() {
-  beginResetModel();
-  endResetModel();
-}
-
-int LegTableModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : plan.RowCount();
-}
-
-int LegTableModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : Column::columns;
-}
-
-QString LegTableModel::CellText(int row, int column) const {
-  const PlanWaypoint& waypoint = plan.Row(row);
-  switch (column) {
-    case code:
-      return Utf8(waypoint.Code.View());
-    case name:
-      return Utf8(waypoint.Name.View());
-    case airway:
-      return waypoint.HasAirway() ? Utf8(waypoint.Airway.View()) : QString();
-    case course:
-      if (row == 0) return {};
-      return QString::fromStdString(FormatPicture(MagneticCourse(plan, row), "000") + "°/" +
-                                    FormatPicture(waypoint.Course, "000") + "°");
-    case distance:
-      if (row == 0) return {};
-      return QString::fromStdString(FormatPicture(RoundToEven(waypoint.Dist), "000") + " NM");
-    default:
-      return {};
-  }
-}
-
-QVariant LegTableModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || index.row() >= plan.RowCount()) return {};
-  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return CellText(index.row(), index.column());
-  if (role == Qt::TextAlignmentRole && index.column() >= course)
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-  return {};
-}
-
-QVariant LegTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::TextAlignmentRole)
-    return section >= course ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                             : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-  if (role != Qt::DisplayRole) return {};
-  const QStringList headings = {tr("Code"), tr("Name"), tr("Airway"), tr("Course"), tr("Distance")};
-  return headings.value(section);
-}
-
-pnlFlightplan::pnlFlightplan(FlightPlan& plan, QWidget* parent) : QFrame(parent), plan(plan) {
+pnlFlightplan::pnlFlightplan(Session& session, QAction* levelUp, QAction* levelDown, QWidget* parent)
+    : QFrame(parent),
+      session(session),
+      plan(session.plan),
+      cells(session.plan, session.database, session.navLog, session.settings) {
   setObjectName("pnlFlightplan");
-  setFixedWidth(panelWidth);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 18, 0, 0);
-  layout->setSpacing(12);
-  lblPlanTitle = new QLabel(this);
-  lblPlanTitle->setObjectName("lblPlanTitle");
-  lblPlanTitle->setContentsMargins(18, 0, 18, 0);
-  layout->addWidget(lblPlanTitle);
-  auto* figures = new QHBoxLayout;
-  figures->setContentsMargins(18, 0, 18, 0);
-  figures->setSpacing(34);
-  lblFlightDistance = AddFigure(figures, tr("Distance (NM)"), "lblFlightDistance");
-  lblETE = AddFigure(figures, tr("Time enroute"), "lblETE");
-  lblFL = AddFigure(figures, tr("Flight level"), "lblFL");
-  figures->addStretch();
-  layout->addLayout(figures);
-  grdWPTable = new QTableView(this);
-  grdWPTable->setObjectName("grdWPTable");
-  model = new LegTableModel(plan, this);
-  grdWPTable->setModel(model);
-  grdWPTable->setShowGrid(false);
-  grdWPTable->setAlternatingRowColors(true);
-  grdWPTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-  grdWPTable->setSelectionMode(QAbstractItemView::SingleSelection);
-  grdWPTable->setTabKeyNavigation(false);
-  grdWPTable->setWordWrap(false);
-  grdWPTable->verticalHeader()->hide();
-  grdWPTable->verticalHeader()->setDefaultSectionSize(27);
-  auto* header = grdWPTable->horizontalHeader();
-  header->setHighlightSections(false);
-  header->setSectionResizeMode(LegTableModel::name, QHeaderView::Stretch);
-  const std::pair<int, int> widths[] = {{LegTableModel::code, 74},
-                                        {LegTableModel::airway, 74},
-                                        {LegTableModel::course, 104},
-                                        {LegTableModel::distance, 84}};
-  for (const auto& [column, width] : widths)
-    grdWPTable->setColumnWidth(column, width);
-  grdWPTable->installEventFilter(this);
-  connect(grdWPTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-          [this] { TakeSelection(); });
+  layout->setContentsMargins(0, 14, 0, 0);
+  layout->setSpacing(10);
+  layout->addLayout(TitleRow());
+  layout->addLayout(FigureRow(levelUp, levelDown));
+  layout->addLayout(ProcedureRow());
+  grdWPTable = new LegTable(plan, cells, session.settings);
   auto* tableRow = new QHBoxLayout;
-  tableRow->setContentsMargins(9, 0, 9, 0);
+  tableRow->setContentsMargins(tableMargin, 2, 0, 0);
   tableRow->addWidget(grdWPTable);
   layout->addLayout(tableRow, 1);
-  lblHint = new QLabel(this);
-  lblHint->setObjectName("lblHint");
-  lblHint->setProperty("quiet", true);
+  lblHint = NewLabel("lblHint", "quiet");
   lblHint->setWordWrap(true);
-  lblHint->setContentsMargins(18, 0, 18, 12);
+  lblHint->setContentsMargins(sideMargin, 0, sideMargin, 12);
   layout->addWidget(lblHint);
-  Refresh();
+  connect(grdWPTable, &LegTable::RowPicked, this, [this] {
+    ShowHint();
+    Q_EMIT RowPicked();
+  });
+  connect(grdWPTable, &LegTable::RowCentred, this, &pnlFlightplan::RowCentred);
+  connect(grdWPTable, &LegTable::DeleteAsked, this, [this](int row) {
+    if (states.editRows) Q_EMIT DeleteAsked(row);
+  });
+  connect(grdWPTable, &LegTable::AlternateAsked, this, [this] {
+    if (states.editRows) Q_EMIT AlternateAsked();
+  });
+  FitWidth();
 }
 
-void pnlFlightplan::TakeSelection() {
-  const QModelIndexList rows = grdWPTable->selectionModel()->selectedRows();
-  plan.SelectedRow = rows.isEmpty() ? std::int16_t{0} : static_cast<std::int16_t>(rows.first().row());
+QLayout* pnlFlightplan::TitleRow() {
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(sideMargin, 0, sideMargin, 0);
+  lblPlanTitle = NewLabel("lblPlanTitle");
+  lblCurrentAC = NewLabel("lblCurrentAC", "quiet");
+  row->addWidget(lblPlanTitle);
+  row->addStretch(1);
+  row->addWidget(lblCurrentAC);
+  return row;
+}
+
+QLayout* pnlFlightplan::FigureRow(QAction* levelUp, QAction* levelDown) {
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(sideMargin, 0, sideMargin, 0);
+  row->setSpacing(26);
+  lblFlightDistance = AddFigure(row, tr("Distance (NM)"), "lblFlightDistance");
+  lblETE = AddFigure(row, tr("Time enroute"), "lblETE");
+  lblFL = AddFigure(row, tr("Flight level"), "lblFL", LevelButtons(levelUp, levelDown));
+  lblCruiseSpeed = AddFigure(row, tr("Cruise (kt)"), "lblCruiseSpeed");
+  row->addStretch(1);
+  lblEstElapTime = NewLabel("lblEstElapTime", "figure");
+  row->addWidget(lblEstElapTime, 0, Qt::AlignBottom);
+  return row;
+}
+
+QLayout* pnlFlightplan::ProcedureRow() {
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(sideMargin, 0, sideMargin, 0);
+  row->setSpacing(26);
+  lblSID = AddFigure(row, tr("SID"), "lblSID", NoneLabel("lblSID"));
+  lblSTAR = AddFigure(row, tr("STAR"), "lblSTAR", NoneLabel("lblSTAR"));
+  row->addStretch(1);
+  return row;
+}
+
+QWidget* pnlFlightplan::LevelButtons(QAction* levelUp, QAction* levelDown) {
+  auto* updnFL = new QFrame;
+  updnFL->setObjectName("updnFL");
+  auto* line = new QHBoxLayout(updnFL);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(1);
+  for (QAction* step : {levelDown, levelUp}) {
+    auto* button = new QToolButton;
+    step->setIcon(LineIcon(step == levelUp ? "level_up" : "level_down"));
+    step->setIconVisibleInMenu(false);
+    button->setDefaultAction(step);
+    button->setIconSize(QSize(12, 12));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setFixedSize(22, 18);
+    line->addWidget(button);
+  }
+  return updnFL;
+}
+
+void pnlFlightplan::FitWidth() {
+  setFixedWidth(grdWPTable->LayoutWidth() + tableMargin + 2 * frameWidth());
+}
+
+void pnlFlightplan::SetExtended(bool on) {
+  grdWPTable->SetExtended(on);
+  FitWidth();
+}
+
+void pnlFlightplan::ShowCoords(bool on) {
+  cells.showCoords = on;
+  grdWPTable->Refresh();
+  FitWidth();
+}
+
+void pnlFlightplan::Refresh(const PlanCommandStates& now) {
+  states = now;
+  grdWPTable->Refresh();
+  ShowFigures();
   ShowHint();
-  Q_EMIT RowPicked();
+}
+
+void pnlFlightplan::ShowFigures() {
+  lblPlanTitle->setText(plan.RowCount() >= 2 ? CodeAt(plan, 0) + "  →  " + CodeAt(plan, plan.DestinationRow())
+                                             : tr("No flight plan"));
+  lblCurrentAC->setText(QString::fromStdString(session.aircraft.Name));
+  const PlanFigures figures = FiguresOf(plan, session.aircraft);
+  lblFlightDistance->setText(QString::fromStdString(figures.FlightDistance));
+  lblETE->setText(QString::fromStdString(figures.ETE));
+  lblFL->setText(QString::fromStdString(figures.FL));
+  lblCruiseSpeed->setText(QString::fromStdString(figures.CruiseSpeed));
+  ShowOrNone(lblSID, plan.SidName);
+  ShowOrNone(lblSTAR, plan.StarName);
 }
 
 void pnlFlightplan::ShowHint() {
-  const bool selected = plan.SelectedRow > 0 && plan.SelectedRow < plan.DestinationRow();
-  lblHint->setText(selected
-                       ? tr("A route now fills the leg behind %1; Delete takes it out of the plan. Esc "
-                            "selects the whole plan.")
-                             .arg(CodeAt(plan, plan.SelectedRow))
-                       : tr("A route replaces everything between the airports. Select a row to fill only "
-                            "the leg behind it."));
-}
-
-bool pnlFlightplan::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == grdWPTable && event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {
-    if (plan.SelectedRow > 0) Q_EMIT DeleteAsked(plan.SelectedRow);
-    return true;
+  const int row = plan.SelectedRow;
+  QString hint;
+  if (plan.MissingWaypoints) {
+    hint = tr("The database lacks some of these waypoints: the plan can be shown, but not changed or saved.");
+  } else if (row <= 0) {
+    hint =
+        tr("A route replaces everything between the airports. Select a row to fill only the leg behind it.");
+  } else if (row >= plan.DestinationRow()) {
+    hint = tr("A route now fills only the last leg, behind %1. Esc selects the whole plan.")
+               .arg(CodeAt(plan, plan.DestinationRow() - 1));
+  } else {
+    hint = tr("A route now fills the leg behind %1; Delete takes it out of the plan. Esc selects the whole "
+              "plan.")
+               .arg(CodeAt(plan, row));
   }
-  if (watched == grdWPTable && event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
-      grdWPTable->selectionModel()->hasSelection()) {
-    grdWPTable->clearSelection();
-    return true;
-  }
-  return QFrame::eventFilter(watched, event);
-}
-
-void pnlFlightplan::Refresh() {
-  // The reset takes the selection away without telling; the plan's own row stays the truth.
-  model->Refresh();
-  if (plan.SelectedRow > 0 && plan.SelectedRow <= plan.DestinationRow())
-    grdWPTable->selectRow(plan.SelectedRow);
-  const bool filed = plan.RowCount() >= 2;
-  lblPlanTitle->setText(filed ? CodeAt(plan, 0) + "  →  " + CodeAt(plan, plan.DestinationRow())
-                              : tr("No flight plan"));
-  lblFlightDistance->setText(filed ? QString::fromStdString(FormatPicture(plan.TotalDistance, "####0"))
-                                   : "00000");
-  lblETE->setText(QString::fromStdString(FormatMinutes(plan.TotalMinutes)));
-  lblFL->setText(filed ? QString::number(plan.CruiseFL) : "000");
-  ShowHint();
+  lblHint->setText(hint);
 }

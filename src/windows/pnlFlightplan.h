@@ -1,63 +1,63 @@
-// The plan beside the map: where it goes, its figures, and its legs.
+// The plan beside the map: where it goes, its figures, its legs, and what the
+// next command on it would do.
 #pragma once
 
-#include <QAbstractTableModel>
+#include <QAction>
+#include <QBoxLayout>
 #include <QFrame>
 #include <QLabel>
-#include <QTableView>
 
-#include "flightplan/flight_plan.h"
-
-class LegTableModel : public QAbstractTableModel {
-  Q_OBJECT
-
- public:
-  enum Column { code, name, airway, course, distance, columns };
-
-  explicit LegTableModel(const FlightPlan& plan, QObject* parent = nullptr);
-
-  // Call when the plan's rows have changed.
-  void Refresh();
-
-  int rowCount(const QModelIndex& parent = {}) const override;
-  int columnCount(const QModelIndex& parent = {}) const override;
-  QVariant data(const QModelIndex& index, int role) const override;
-  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
- private:
-  QString CellText(int row, int column) const;
-
-  const FlightPlan& plan;
-};
+#include "flightplan/plan_commands.h"
+#include "startup/session.h"
+#include "windows/leg_table.h"
 
 class pnlFlightplan : public QFrame {
   Q_OBJECT
 
  public:
-  explicit pnlFlightplan(FlightPlan& plan, QWidget* parent = nullptr);
+  // session must be loaded and outlive the panel. The actions are the steps of
+  // the cruise level that updnFL's two buttons run.
+  pnlFlightplan(Session& session, QAction* levelUp, QAction* levelDown, QWidget* parent = nullptr);
 
   // Shows the plan as it is now.
-  void Refresh();
+  void Refresh(const PlanCommandStates& states);
+  // The table with the columns of the flight, and the panel wide enough for it.
+  void SetExtended(bool on);
+  // Positions in the place of names.
+  void ShowCoords(bool on);
 
  Q_SIGNALS:
   // The delete key on a row of the table.
   void DeleteAsked(int row);
   // Another row is selected, or none.
   void RowPicked();
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
+  // Double click or Enter on a row: the map is to show it.
+  void RowCentred(int row);
+  // A click or Enter on the alternate's row.
+  void AlternateAsked();
 
  private:
-  void TakeSelection();
+  QLayout* TitleRow();
+  QLayout* FigureRow(QAction* levelUp, QAction* levelDown);
+  QLayout* ProcedureRow();
+  QWidget* LevelButtons(QAction* levelUp, QAction* levelDown);
+  void FitWidth();
+  void ShowFigures();
   void ShowHint();
 
+  Session& session;
   FlightPlan& plan;
-  LegTableModel* model;
+  LegCells cells;
+  PlanCommandStates states;
   QLabel* lblPlanTitle;
+  QLabel* lblCurrentAC;
   QLabel* lblFlightDistance;
   QLabel* lblETE;
+  QLabel* lblEstElapTime;
   QLabel* lblFL;
+  QLabel* lblCruiseSpeed;
+  QLabel* lblSID;
+  QLabel* lblSTAR;
   QLabel* lblHint;
-  QTableView* grdWPTable;
+  LegTable* grdWPTable;
 };

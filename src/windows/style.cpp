@@ -89,6 +89,10 @@ QLabel[figure="true"] { font-size: 15px; color: #dfe5ee; }
 QLabel[plate="true"] { background: rgba(17, 22, 32, 232); border: 1px solid #33425a; border-radius: 4px; padding: 3px 7px; color: #eef3fa; }
 QTableView { border: none; background: #0f141c; alternate-background-color: #121822; gridline-color: #1d2531; outline: none; }
 QTableView::item { padding: 0 6px; border: none; }
+QTableView#grdWPTable { font-size: 12px; }
+QTableView#grdWPTable::item { padding: 0 2px; }
+QTableView#grdWPTable QHeaderView::section { font-size: 12px; padding: 5px 5px; }
+QFrame#updnFL QToolButton { padding: 0; border-radius: 3px; }
 QTableView::item:selected { background: #1f3a5e; color: #ffffff; }
 QHeaderView::section { background: #111620; color: #8c98aa; border: none; border-bottom: 1px solid #232c3a; padding: 6px 8px; }
 QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
@@ -115,6 +119,22 @@ QColor IconColor(QIcon::Mode mode, QIcon::State state) {
 
 QColor FocusColor() {
   return QColor::fromRgb(accent);
+}
+
+QColor EnrouteColor() {
+  return QColor::fromRgb(qRgb(116, 172, 236));
+}
+
+QColor ProcedureColor() {
+  return QColor::fromRgb(qRgb(222, 178, 106));
+}
+
+QColor AirportColor() {
+  return QColor::fromRgb(text);
+}
+
+QColor ProcedureTint() {
+  return QColor::fromRgba(qRgba(222, 178, 106, 14));
 }
 
 void ApplyStyle(QApplication& application) {

@@ -16,5 +16,12 @@ QColor IconColor(QIcon::Mode mode, QIcon::State state);
 // The frame around what has the keyboard.
 QColor FocusColor();
 
+// The plan's table: pictures of waypoints on the way, of procedures, of the
+// airports, and what lies behind the rows of a procedure.
+QColor EnrouteColor();
+QColor ProcedureColor();
+QColor AirportColor();
+QColor ProcedureTint();
+
 // Palette, font and style sheet for every window.
 void ApplyStyle(QApplication& application);

@@ -207,13 +207,15 @@ TEST_F(Window, MakesAndSavesAHighAltitudePlan) {
   Press("cmdHiAlt");
   const auto& table = *Find<QTableView>("grdWPTable").model();
   ASSERT_EQ(table.rowCount(), 4) << (messages.texts.empty() ? "" : messages.texts.front());
-  const auto cell = [&](int row, int column) { return table.index(row, column).data().toString(); };
-  EXPECT_EQ(cell(1, LegTableModel::code), "A");
-  EXPECT_EQ(cell(2, LegTableModel::code), "Z");
-  EXPECT_EQ(cell(2, LegTableModel::airway), "UL1");
-  EXPECT_EQ(cell(2, LegTableModel::distance), "570 NM");
-  EXPECT_EQ(cell(2, LegTableModel::course), "090°/090°");
-  EXPECT_EQ(cell(0, LegTableModel::distance), "");
+  const auto cell = [&](int row, LegColumn column) {
+    return table.index(row, static_cast<int>(column)).data().toString();
+  };
+  EXPECT_EQ(cell(1, LegColumn::code), "A");
+  EXPECT_EQ(cell(2, LegColumn::code), "Z");
+  EXPECT_EQ(cell(2, LegColumn::name), "Z (UL1 210-240)");
+  EXPECT_EQ(cell(2, LegColumn::distance), "570 NM");
+  EXPECT_EQ(cell(2, LegColumn::course), "090°/090°");
+  EXPECT_EQ(cell(0, LegColumn::distance), "");
   EXPECT_EQ(Find<QLabel>("lblFlightDistance").text(), "600");
   EXPECT_EQ(pointer.depth, 0) << "the hourglass is gone";
 
