@@ -61,6 +61,6 @@ ProcedureList LoadProcedures(const AppFolder& home, ProcedureKind kind, std::str
   std::string reason;
   const auto contents = ReadWholeFile(path, &reason);
   if (!contents)
-    throw std::runtime_error(path.string() + ": " + reason + "\nvelmora-dbmanager --cifp DIR makes it.");
+    throw std::runtime_error(path.string() + ": " + reason + "; velmora-dbmanager --cifp DIR makes it");
   return ParseProcedures(contents->Bytes(), airport);
 }
