@@ -87,6 +87,7 @@ class ProfilePicture {
   void DrawNote() {
     if (profile.note.empty()) return;
     const float x = scale.Right() - surface.TextWidth(profile.note);
+    if (Span{x, scale.Right()}.Meets(plate)) return;
     PrintAt(surface, x, scale.Frame().top + scale.Pixels(textGap), profile.note, quietColor);
   }
 
@@ -178,30 +179,36 @@ class ProfilePicture {
     PrintTop("TOD", descentText, descentX);
   }
 
+  // Where the mark is told; what is printed there otherwise gives way to it.
+  void PlaceMark(double distance) {
+    const int row = RowAt(profile, distance);
+    markText = MarkText(PointAt(profile, distance)) + "   " + DistanceText(RowDistance(row) - distance) +
+               " to " + Code(row);
+    const float width = surface.TextWidth(markText) + scale.Pixels(2 * textGap);
+    const PictureFrame& frame = scale.Frame();
+    const float left = std::clamp(scale.XOf(distance) - width / 2, frame.left,
+                                  std::max(frame.left, frame.left + frame.width - width));
+    plate = {left, left + width};
+  }
+
   void DrawMark(double distance) {
-    const ProfilePoint point = PointAt(profile, distance);
     const float x = scale.XOf(distance);
-    const float y = scale.YOf(point.altitude);
     surface.Opacity = 0.6F;
     surface.Line(x, scale.Top(), x, scale.Bottom(), textColor);
     surface.Opacity = 1;
-    Disc({x, y}, markRadius, textColor);
-    std::string text = MarkText(point);
-    const int row = RowAt(profile, distance);
-    text += "   " + DistanceText(RowDistance(row) - distance) + " to " + Code(row);
-    const float width = surface.TextWidth(text) + scale.Pixels(2 * textGap);
-    const float left =
-        std::clamp(x - width / 2, scale.Frame().left,
-                   std::max(scale.Frame().left, scale.Frame().left + scale.Frame().width - width));
+    Disc({x, scale.YOf(PointAt(profile, distance).altitude)}, markRadius, textColor);
     const float top = scale.Frame().top + scale.Pixels(2);
-    const float bottom = top + surface.TextHeight(text) + scale.Pixels(4);
-    Fill({{{left, top}, {left + width, top}, {left + width, bottom}, {left, bottom}}}, gridColor, 0.96F);
-    PrintAt(surface, left + scale.Pixels(textGap), top + scale.Pixels(2), text, textColor);
+    const float bottom = top + surface.TextHeight(markText) + scale.Pixels(4);
+    Fill({{{plate.left, top}, {plate.right, top}, {plate.right, bottom}, {plate.left, bottom}}}, gridColor,
+         0.96F);
+    PrintAt(surface, plate.left + scale.Pixels(textGap), top + scale.Pixels(2), markText, textColor);
   }
 
  private:
   struct Span {
-    float left, right;
+    float left = 0;
+    float right = 0;
+    bool Meets(const Span& other) const { return left < other.right && other.left < right; }
   };
 
   double RowDistance(int row) const { return profile.rows[static_cast<std::size_t>(row)]; }
@@ -234,9 +241,7 @@ class ProfilePicture {
     const float left =
         std::clamp(x - width / 2, scale.Frame().left, scale.Frame().left + scale.Frame().width - width);
     const Span span{left - scale.Pixels(textGap), left + width + scale.Pixels(textGap)};
-    if (std::any_of(taken.begin(), taken.end(),
-                    [&](const Span& other) { return span.left < other.right && other.left < span.right; }))
-      return;
+    if (std::any_of(taken.begin(), taken.end(), [&](const Span& other) { return span.Meets(other); })) return;
     taken.push_back({left, left + width});
     surface.Line(x, scale.Bottom(), x, scale.Bottom() + scale.Pixels(3), quietColor);
     const bool airport = row == 0 || row == plan.DestinationRow();
@@ -262,6 +267,7 @@ class ProfilePicture {
   void PrintTop(std::string_view name, std::string_view text, float x) {
     const float y = scale.Frame().top + scale.Pixels(textGap);
     const float behind = x + NameWidth(name);
+    if (Span{x, behind + surface.TextWidth(text)}.Meets(plate)) return;
     surface.FontBold = true;
     PrintAt(surface, x, y, name, textColor);
     surface.FontBold = false;
@@ -283,6 +289,8 @@ class ProfilePicture {
   const FlightPlan& plan;
   const ProfileScale& scale;
   DrawSurface& surface;
+  Span plate;  // of the mark's text; empty without a mark
+  std::string markText;
 };
 
 }  // namespace
@@ -334,6 +342,7 @@ void DrawProfile(const FlightProfile& profile, const FlightPlan& plan, const Pro
   surface.ResetStyle();
   surface.FontSize = textPoints;
   ProfilePicture picture(profile, plan, scale, surface);
+  if (marked && !profile.points.empty()) picture.PlaceMark(*marked);
   picture.DrawGround();
   picture.DrawNote();
   if (profile.points.empty()) return;

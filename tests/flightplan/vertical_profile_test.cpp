@@ -195,6 +195,10 @@ TEST(ProfilePicture, StaysInItsFrameAndNamesTheTops) {
   for (const char* text : {"TOC", "75 NM  00:25", "TOD", "77 NM to go  02:17", "EDDA", "EDDB", "FL 200"})
     EXPECT_TRUE(picture.Says(text)) << text;
   EXPECT_TRUE(picture.Says(MarkText(PointAt(picture.profile, 303)) + "   3 NM to W51"));
+  const double top = picture.profile.TopOfClimb().distance;
+  const Picture onTop(drawn.plan, drawn.context, 11325, top);
+  EXPECT_FALSE(onTop.Says("TOC")) << "gives way to what is told of the mark";
+  EXPECT_TRUE(onTop.Says("TOD"));
   for (const auto& one : picture.surface.drawn)
     for (const SurfacePoint point : one.points) {
       if (one.what == "circle") continue;
