@@ -60,6 +60,9 @@ QPushButton:default { background: #2b65ab; border-color: #3a78c2; color: #ffffff
 QPushButton:default:hover { background: #3273c0; }
 QPushButton:disabled { background: #1a212c; border-color: #262f3c; color: #5c6676; }
 QLineEdit { background: #0d1118; border: 1px solid #334155; border-radius: 5px; padding: 7px 9px; selection-background-color: #2b65ab; }
+QRadioButton:focus { color: #ffffff; }
+QRadioButton::indicator { width: 12px; height: 12px; border: 1px solid #5a6b84; border-radius: 7px; background: #0d1118; }
+QRadioButton::indicator:checked { width: 6px; height: 6px; border: 4px solid #4084d6; background: #ffffff; }
 QListWidget#lstAircraft { background: #0f141c; border: 1px solid #232c3a; border-radius: 5px; padding: 4px; outline: none; }
 QListWidget#lstAircraft:focus { border-color: #4084d6; }
 QListWidget#lstAircraft::item { padding: 6px 8px; border-radius: 4px; }
