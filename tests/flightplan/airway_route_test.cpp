@@ -55,6 +55,26 @@ TEST(AirwayRoute, FillsAWholePlan) {
   EXPECT_EQ(row.Kind, RowKind::enroute);
 }
 
+TEST(AirwayRoute, FollowsTheLinksOfItsLevelInTheirDirection) {
+  Builder b(alongTheEquator +
+            "A --162-- B V1 FL60-FL200\nB --408-> Z V2 FL60-FL200\n"
+            "A ==342=> C UL1 FL210-FL460\nC ==228=> Z UL2 FL210-FL460\nB ==1== Z UL3\n"
+            "Y 0 -20\nZ --1788-> Y V3\n");
+  ASSERT_TRUE(b.Low());
+  EXPECT_EQ(b.Codes(), "EDDA A B Z EDDB");
+  EXPECT_EQ(Airways(b.plan), "[][][V1][V2][]");
+  ASSERT_TRUE(GenerateAirwayRoute(b.plan, b.context, b.search, AirwayNetwork::highAltitude));
+  EXPECT_EQ(b.Codes(), "EDDA A C Z EDDB");
+  EXPECT_EQ(Airways(b.plan), "[][][UL1][UL2][]");
+  EXPECT_EQ(b.plan.RouteType, RouteKind::highAltitude);
+  EXPECT_EQ(b.plan.RouteMethod, RouteGenerator::highAltitude);
+  // Back again the low network leads from Z to Y alone.
+  SetDepartureAndDestination(b.plan, b.context, 1, 0);
+  EXPECT_FALSE(b.Low());
+  EXPECT_EQ(b.Codes(), "EDDB EDDA");
+  EXPECT_TRUE(b.messages.texts.back().starts_with("No airway routing possible from Z!!"));
+}
+
 TEST(AirwayRoute, LeavesTheProceduresInPlace) {
   Builder b(straight);
   b.Add("Fix", "DEP1", 0.1f, 0.1f, RowKind::sid);
@@ -172,6 +192,20 @@ TEST(FindEntryFix, LooksForAFixTowardsTheNextRow) {
       EXPECT_EQ(b.messages.texts[0], "No fix found within 300nm of insertion waypoint!");
     }
   }
+}
+
+// The radius itself, with the distance measured as the program does.
+TEST(FindEntryFix, RefusesTheRadius) {
+  Builder b("airport EDDA 0 0 0\nairport EDDB 0 10 0\nP 0.4 0\nF 0 5.5\nP --1-> F V1");
+  IntersectionRec& node = b.world.database.intersections[static_cast<std::size_t>(b.world.Node("P"))];
+  for (node.sngLat = 0.499F; GreatCircleDistance(0, 0, node.sngLat, 0) < 30;)
+    node.sngLat = std::nextafter(node.sngLat, 90.0F);
+  node.sngLon = 0;
+  BuildIndexes(b.world.database);
+  ASSERT_EQ(GreatCircleDistance(0, 0, node.sngLat, 0), 30);
+  float radius = 30;
+  EXPECT_EQ(FindEntryFix(b.plan, b.context, 0, 'V', radius), b.world.Node("P"));
+  EXPECT_EQ(radius, 50);
 }
 
 TEST(FindExitRadius, FindsTheSmallestCircleThatHoldsAFix) {

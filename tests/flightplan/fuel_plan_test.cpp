@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "tests/flightplan/drawn_world.h"
 
 namespace {
@@ -76,6 +78,23 @@ TEST(FuelPlan, AShortFlightCruisesOnNothing) {
   const FuelSegments segments = ComputeFuelSegments(f.plan, f.context);
   EXPECT_EQ(segments.cruise, 0);
   EXPECT_GT(segments.climb + segments.descent + segments.approach, segments.trip);
+}
+
+TEST(FuelPlan, FollowsItsFormulaToTheLightestAircraft) {
+  Fuelled f;
+  f.aircraft.EmptyWeight = 60;
+  f.aircraft.LoadWeight = 40;
+  EXPECT_EQ(ComputeFuelSegments(f.plan, f.context).trip, 0);
+  EXPECT_EQ(CalculateFuel(f.plan, f.context).TotalFuel, 0);
+  f.aircraft.LoadWeight = 39;
+  EXPECT_LT(ComputeFuelSegments(f.plan, f.context).trip, 0);
+}
+
+TEST(FuelPlan, SumsWholeGallons) {
+  const Fuelled f;
+  // The trip is 313.08 gallons, its parts 30.47, 272.34, 3.39 and 6.89.
+  EXPECT_EQ(std::lround(ComputeFuelSegments(f.plan, f.context).trip / 3.028), 313);
+  EXPECT_EQ(CalculateFuel(f.plan, f.context).TripFuel, 312);
 }
 
 TEST(FuelPlan, SaysWhenThereIsNoFigure) {
