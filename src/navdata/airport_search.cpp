@@ -53,6 +53,12 @@ Rank RankOfWord(std::string_view words, const TypedWord& typed) {
   for (std::size_t at = 1; at < words.size();) {
     const std::size_t end = std::min(words.find(' ', at), words.size());
     const std::string_view word = words.substr(at, end - at);
+    // Most words are told apart by their first letter.
+    const bool mayBe = !word.empty() && (word[0] == typed.plain[0] || word[0] == typed.spelled[0]);
+    if (!mayBe) {
+      at = end + 1;
+      continue;
+    }
     if (word.starts_with(typed.plain) || word.starts_with(typed.spelled)) {
       const bool whole = word == typed.plain || word == typed.spelled;
       const Rank rank = at == 1 ? (whole ? Rank::code : Rank::codeBeginning)
@@ -79,13 +85,20 @@ Rank RankOfAirport(std::string_view words, const std::vector<TypedWord>& typed) 
   return codeTyped ? Rank::code : worst;
 }
 
+std::int32_t LongestRunway(const NavDatabase& database, const AirportRec& airport, bool onWater) {
+  constexpr std::uint8_t water = 2;
+  std::int32_t longest = 0;
+  for (const RunwayRec& runway : database.Runways(airport)) {
+    if ((runway.bytSurface == water) == onWater) longest = std::max<std::int32_t>(longest, runway.intLength);
+  }
+  return longest;
+}
+
 }  // namespace
 
 std::int32_t LongestRunwayFeet(const NavDatabase& database, const AirportRec& airport) {
-  std::int32_t longest = 0;
-  for (const RunwayRec& runway : database.Runways(airport))
-    longest = std::max<std::int32_t>(longest, runway.intLength);
-  return longest;
+  const std::int32_t onLand = LongestRunway(database, airport, false);
+  return onLand > 0 ? onLand : LongestRunway(database, airport, true);
 }
 
 AirportSearch::AirportSearch(const NavDatabase& database) : database(database) {
@@ -93,7 +106,7 @@ AirportSearch::AirportSearch(const NavDatabase& database) : database(database) {
   entries.reserve(count + 1);
   for (std::size_t row = 0; row < count; ++row) {
     const AirportRec& airport = database.airports[row];
-    entries.push_back({folded.size(), LongestRunwayFeet(database, airport)});
+    entries.push_back({folded.size(), LongestRunway(database, airport, false)});
     // An airport without a code keeps an empty first word.
     (folded += ' ') += Folded(airport.strCode.View(), Umlauts::plain, Apostrophes::join);
     AppendWords(folded, airport.strName.View());

@@ -12,7 +12,8 @@
 
 #include "navdata/nav_database.h"
 
-// Length of the airport's longest runway in feet, 0 if it has none.
+// Length of the airport's longest runway in feet, water runways only if it has
+// no others; 0 if it has none.
 std::int32_t LongestRunwayFeet(const NavDatabase& database, const AirportRec& airport);
 
 struct AirportsFound {
@@ -30,15 +31,15 @@ class AirportSearch {
   // Airports of which every typed word (UTF-8, accents and capitals do not
   // matter; ü is found as u and as ue) begins some word. The airport whose code
   // was typed comes first, then those whose code begins so, then those that
-  // have all the words whole, then the others; within each, longer runways
-  // first, then by code. Nothing is found for a text without letters or digits.
-  // The rows for "AFIL" and "ZZZZ" are no airports.
+  // have all the words whole, then the others; within each, longer runways (on
+  // land) first, then by code. Nothing is found for a text without letters or
+  // digits. The rows for "AFIL" and "ZZZZ" are no airports.
   AirportsFound Find(std::string_view typed, std::size_t most = mostListed) const;
 
  private:
   struct Entry {
-    std::size_t start = 0;  // of the airport's words in folded, each with a blank before it
-    std::int32_t longestRunway = 0;
+    std::size_t start = 0;           // of the airport's words in folded, each with a blank before it
+    std::int32_t longestRunway = 0;  // on land
   };
 
   const NavDatabase& database;

@@ -275,7 +275,7 @@ void frmMap::OpenMapMenu(float x, float y, const QPoint& global) {
 void frmMap::AddObjects(QMenu& menu, float x, float y) {
   const std::vector<MapObject> objects = MapObjectsNear(Question(x, y), session.selection);
   if (objects.empty()) return;
-  AddAirportItems(menu, objects);
+  AddAirportItems(menu, MapObjectsNear(Question(x, y), ClearedSelection()));
   menu.addSeparator();
   menu.addAction(tr("Highlight"))->setEnabled(false);
   int number = 0;

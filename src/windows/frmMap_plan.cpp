@@ -9,6 +9,7 @@
 #include "base/files.h"
 #include "flightplan/plan_file.h"
 #include "flightplan/plan_layers.h"
+#include "navdata/airport_search.h"
 #include "windows/frmMap.h"
 #include "windows/frmSelectAP.h"
 
@@ -28,6 +29,26 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuUndo", &PlanCommandStates::undo},
     {"mnuRedo", &PlanCommandStates::redo},
 };
+
+// On a map of half the world the pointer lies on dozens of airports.
+constexpr std::size_t mostAirportItems = 3;
+
+std::vector<std::int32_t> LargestAirports(const std::vector<MapObject>& objects,
+                                          const NavDatabase& database) {
+  std::vector<std::int32_t> rows;
+  for (const MapObject& object : objects) {
+    const std::int32_t row = object.selection.SelectedObjectIndex;
+    const bool isAirport = object.selection.SelectedObjectType == SelectedObject::airport && row >= 0;
+    if (isAirport && row < database.AirportCount()) rows.push_back(row);
+  }
+  const auto runway = [&](std::int32_t row) {
+    return LongestRunwayFeet(database, database.airports[static_cast<std::size_t>(row)]);
+  };
+  std::stable_sort(rows.begin(), rows.end(),
+                   [&](std::int32_t a, std::int32_t b) { return runway(a) > runway(b); });
+  rows.resize(std::min(rows.size(), mostAirportItems));
+  return rows;
+}
 
 }  // namespace
 
@@ -52,11 +73,7 @@ void frmMap::TakeAirport(const AirportChoice& choice) {
 
 void frmMap::AddAirportItems(QMenu& menu, const std::vector<MapObject>& objects) {
   const AirportChoice present = ChoiceOf(session.plan, session.database);
-  for (const MapObject& object : objects) {
-    const std::int32_t row = object.selection.SelectedObjectIndex;
-    const bool isAirport = row >= 0 && row < session.database.AirportCount() &&
-                           object.selection.SelectedObjectType == SelectedObject::airport;
-    if (!isAirport) continue;
+  for (const std::int32_t row : LargestAirports(objects, session.database)) {
     const QString code = QString::fromStdString(
         CodePageToUtf8(session.database.airports[static_cast<std::size_t>(row)].strCode.View()));
     QMenu* roles = menu.addMenu(tr("&Airport %1").arg(code));

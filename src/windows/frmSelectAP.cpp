@@ -12,10 +12,10 @@
 
 namespace {
 
-constexpr QSize openingSize(920, 680);
+constexpr QSize openingSize(1020, 680);
 constexpr int fieldWidth = 250;
 constexpr int longestTyped = 60;
-constexpr const char* parting = "   ·   ";
+constexpr const char* parting = "  ·  ";
 
 QString Utf8(std::string_view codePageText) {
   return QString::fromStdString(CodePageToUtf8(codePageText));
@@ -113,6 +113,9 @@ void frmSelectAP::AddField(QGridLayout* grid, Role role, const QString& caption,
   field.name = QuietLabel(this, labelName);
   field.name->setProperty("quiet", false);
   field.details = QuietLabel(this, labelName + "Details");
+  // A long text is cut rather than that the window grows.
+  for (QLabel* text : {field.name, field.details})
+    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* texts = new QVBoxLayout;
   texts->setSpacing(1);
   texts->addWidget(field.name);
@@ -176,6 +179,10 @@ const AirportRec* frmSelectAP::Airport(Role role) const {
   return row >= 0 ? &database.airports.at(static_cast<std::size_t>(row)) : nullptr;
 }
 
+QString frmSelectAP::CodeOf(std::int32_t row) const {
+  return row >= 0 ? Utf8(database.airports.at(static_cast<std::size_t>(row)).strCode.View()) : QString();
+}
+
 frmSelectAP::Role frmSelectAP::RoleOf(const QObject* text) const {
   for (const Role role : {departure, destination, alternate})
     if (At(role).text == text) return role;
@@ -209,7 +216,7 @@ void frmSelectAP::Choose(Role role, std::int32_t row) {
   Field& field = At(role);
   const bool known = row >= 0 && row < database.AirportCount();
   field.row = known ? row : -1;
-  field.text->setText(known ? Utf8(Airport(role)->strCode.View()) : QString());
+  field.text->setText(CodeOf(field.row));
   field.matches = 0;
   lstAirports->Show({});
   ShowAll();
@@ -282,6 +289,8 @@ bool frmSelectAP::eventFilter(QObject* watched, QEvent* event) {
   const Role role = RoleOf(watched);
   if (role == roles) return QDialog::eventFilter(watched, event);
   if (event->type() == QEvent::KeyPress && FieldKey(role, *static_cast<QKeyEvent*>(event))) return true;
+  Field& field = At(role);
+  if (event->type() == QEvent::FocusOut && field.row >= 0) field.text->setText(CodeOf(field.row));
   if (event->type() == QEvent::FocusIn && active != role) {
     active = role;
     Search(role);
@@ -307,6 +316,7 @@ void frmSelectAP::ShowField(Role role) {
   const QString typed = field.text->text().trimmed();
   const bool nothing = field.row < 0 && !typed.isEmpty() && field.matches == 0;
   SetFault(*field.details, nothing);
+  field.name->setVisible(field.row >= 0);
   if (const AirportRec* airport = Airport(role)) {
     field.name->setText(Utf8(airport->strName.View()));
     field.details->setText(DetailsOf(role));
@@ -318,8 +328,7 @@ void frmSelectAP::ShowField(Role role) {
   } else if (nothing) {
     field.details->setText(tr("No airport matches \u201C%1\u201D").arg(typed));
   } else {
-    field.details->setText(
-        tr("%Ln airport(s) match: Enter takes the selected one", nullptr, static_cast<int>(field.matches)));
+    field.details->setText(tr("Enter takes the selected airport"));
   }
 }
 
@@ -338,8 +347,9 @@ QString frmSelectAP::DetailsOf(Role role) const {
   if (role == alternate && destinationAirport != nullptr) {
     details << (At(alternate).row == At(destination).row
                     ? tr("the destination itself")
-                    : tr("%L1 NM from the destination")
-                          .arg(std::lround(DistanceBetween(*destinationAirport, airport))));
+                    : tr("%L1 NM from %2")
+                          .arg(std::lround(DistanceBetween(*destinationAirport, airport)))
+                          .arg(CodeOf(At(destination).row)));
   }
   return details.join(parting);
 }

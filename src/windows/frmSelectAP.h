@@ -51,6 +51,7 @@ class frmSelectAP : public QDialog {
   Field& At(Role role) { return fields[static_cast<std::size_t>(role)]; }
   const Field& At(Role role) const { return fields[static_cast<std::size_t>(role)]; }
   const AirportRec* Airport(Role role) const;
+  QString CodeOf(std::int32_t row) const;  // empty for -1
   Role RoleOf(const QObject* text) const;
 
   void Typed(Role role);

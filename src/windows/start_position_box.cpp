@@ -4,6 +4,7 @@
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 #include <QSignalBlocker>
 
 namespace {
@@ -23,6 +24,7 @@ StartPositionBox::StartPositionBox(QWidget* parent) : QComboBox(parent) {
   completer()->setCompletionMode(QCompleter::PopupCompletion);
   completer()->setCaseSensitivity(Qt::CaseInsensitive);
   completer()->setMaxVisibleItems(shownItems);
+  completer()->popup()->setObjectName("lstDepMatches");
   connect(this, &QComboBox::activated, this, &StartPositionBox::Take);
   connect(lineEdit(), &QLineEdit::editingFinished, this, &StartPositionBox::TakeTyped);
   ShowAirport(NavDatabase(), -1);
@@ -107,4 +109,20 @@ void StartPositionBox::keyPressEvent(QKeyEvent* event) {
 void StartPositionBox::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
   if (event->reason() != Qt::PopupFocusReason) lineEdit()->selectAll();
+}
+
+void StartPositionBox::hidePopup() {
+  QComboBox::hidePopup();
+  // What is typed now is a new search.
+  if (hasFocus()) lineEdit()->selectAll();
+}
+
+void StartPositionBox::paintEvent(QPaintEvent* event) {
+  QComboBox::paintEvent(event);
+  // The style sheet takes the arrow away.
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(palette().color(isEnabled() ? QPalette::Mid : QPalette::PlaceholderText), 1.5));
+  const QPointF tip(width() - 15.5, height() / 2.0 + 2.5);
+  painter.drawPolyline(QPolygonF({tip - QPointF(4.5, 4.5), tip, tip + QPointF(4.5, -4.5)}));
 }

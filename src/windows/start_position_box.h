@@ -20,6 +20,7 @@ class StartPositionBox : public QComboBox {
   void Select(int start);
   // Both, for the plan as it is now.
   void ShowPlan(const NavDatabase& database, const FlightPlan& plan);
+  void hidePopup() override;
 
   const std::vector<StartPosition>& Starts() const { return starts; }
   // Null: the airport's own position.
@@ -32,6 +33,7 @@ class StartPositionBox : public QComboBox {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void Take(int item);

@@ -77,6 +77,8 @@ QComboBox:disabled { color: #5c6676; border-color: #262f3c; }
 QComboBox QLineEdit { background: transparent; border: none; padding: 0; }
 QComboBox::drop-down { border: none; width: 22px; }
 QComboBox QAbstractItemView { background: #19202c; border: 1px solid #2c3748; selection-background-color: #2b5c99; outline: none; }
+QAbstractItemView#lstDepMatches { background: #19202c; border: 1px solid #2c3748; padding: 3px; selection-background-color: #2b5c99; outline: none; }
+QAbstractItemView#lstDepMatches::item, QComboBox QAbstractItemView::item { padding: 4px 6px; }
 QTableView#lstWP { background: #10232b; border: 1px solid #1f3b47; border-radius: 5px; }
 QFrame#statusStrip { background: #111620; border-top: 1px solid #232c3a; }
 QFrame#statusStrip QLabel { color: #a7b3c4; padding: 0 12px; border-right: 1px solid #232c3a; }

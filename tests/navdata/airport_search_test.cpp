@@ -30,6 +30,7 @@ constexpr Drawn drawnAirports[] = {
     {"KSBD", "San Bernardino", "San Bernardino", "California", "United States", 10000},
     {"LSZB", "Bern Belp", "Bern", "0", "Switzerland", 5676},
     {"", "Nameless", "", "0", "", 100},
+    {"LSZW", "Zürich Lake", "", "0", "Switzerland", -20000},  // below 0: on water
 };
 
 class AirportSearchTest : public testing::Test {
@@ -44,7 +45,9 @@ class AirportSearchTest : public testing::Test {
       airport.strCountry = std::string_view(drawn.country);
       airport.lngRunways = 1;
       airport.firstRunway = static_cast<std::uint32_t>(database.runways.size());
-      database.runways.emplace_back().intLength = drawn.runway;
+      RunwayRec& runway = database.runways.emplace_back();
+      runway.intLength = static_cast<std::int16_t>(std::abs(drawn.runway));
+      runway.bytSurface = drawn.runway < 0 ? 2 : 0;
       database.airports.push_back(airport);
     }
     AirportRec& pseudo = database.airports.emplace_back();
@@ -92,9 +95,9 @@ TEST_F(AirportSearchTest, AnswersWhatIsTypedBestFirst) {
       {"ohare", "KORD"},
       {"hare", "KORD"},
       {"münchen", "EDDM"},
-      {"zurich", "LSZH"},
-      {"zuerich", "LSZH"},
-      {"zürich", "LSZH"},
+      {"zurich", "LSZH LSZW"},
+      {"zuerich", "LSZH LSZW"},
+      {"zürich", "LSZH LSZW"},
       {"Zürich München", ""},
       // Not within a word, not the state "0", no pseudo airport, nothing from nothing.
       {"atwick", ""},
@@ -112,6 +115,13 @@ TEST_F(AirportSearchTest, ListsNoMoreThanAskedForAndTellsHowManyThereAre) {
   EXPECT_EQ(Codes("paris", 2), "LFPG LFPO");
   EXPECT_EQ(AirportSearch(database).Find("paris", 2).total, 3U);
   EXPECT_EQ(AirportSearch(NavDatabase()).Find("paris").total, 0U);
+}
+
+TEST_F(AirportSearchTest, TheLongestRunwayIsOneOnLandIfThereIsOne) {
+  database.airports[0].lngRunways = static_cast<std::int32_t>(database.runways.size());
+  EXPECT_EQ(LongestRunwayFeet(database, database.airports[0]), 13829);
+  EXPECT_EQ(LongestRunwayFeet(database, database.airports[std::size(drawnAirports) - 1]), 20000);
+  EXPECT_EQ(LongestRunwayFeet(database, AirportRec()), 0);
 }
 
 TEST(FoldedText, ParsesWordsWithoutAccents) {

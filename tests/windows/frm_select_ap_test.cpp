@@ -4,9 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
-#include <QTest>
 
-#include "tests/windows/window_world.h"
+#include "tests/windows/map_window.h"
 #include "windows/waypoint_entry.h"
 
 namespace {
@@ -84,8 +83,7 @@ TEST_F(SelectAP, CodesTypedOneBehindTheOtherMakeAPlan) {
   EXPECT_FALSE(Find<QPushButton>("cmdOK").isEnabled());
   Type("edda");
   EXPECT_EQ(Label("lblDepName"), "EDDA Airport");
-  EXPECT_EQ(Label("lblDepNameDetails"),
-            "Libreville, Gabon   ·   1,230 ft   ·   runway 8,000 ft   ·   var. E 00°");
+  EXPECT_EQ(Label("lblDepNameDetails"), "Libreville, Gabon  ·  1,230 ft  ·  runway 8,000 ft  ·  var. E 00°");
   EXPECT_FALSE(Find<QPushButton>("cmdOK").isEnabled()) << "there is no destination yet";
   Press(Qt::Key_Return);
   EXPECT_EQ(Focus(), "txtDestAP");
@@ -140,10 +138,11 @@ TEST_F(SelectAP, AnotherAlternateOrStartLeavesTheRoute) {
   EXPECT_EQ(Label("lblChange"), "The route stays; only start and alternate change");
   EXPECT_EQ(Find<QPushButton>("cmdOK").text(), "&OK");
   EnterAndType("txtAltAP", "eddc");
-  EXPECT_TRUE(Label("lblAltNameDetails").endsWith("85 NM from the destination"))
+  EXPECT_TRUE(Label("lblAltNameDetails").endsWith("85 NM from EDDB"))
       << Label("lblAltNameDetails").toStdString();
   auto& start = Find<StartPositionBox>("lstDep");
   start.setFocus();
+  EXPECT_EQ(Text("txtAltAP").text(), "EDDC") << "a field that is left shows the code";
   start.lineEdit()->selectAll();
   Type("27");
   Press(Qt::Key_Return);
@@ -278,6 +277,79 @@ TEST_F(SelectAP, AWaypointIsPickedWithKeysOrAClick) {
   EXPECT_EQ(text->text(), "nothing");
   QTest::keyClick(text, Qt::Key_Escape);
   EXPECT_EQ(text->text(), "");
+}
+
+// ---- in the main window
+
+class AirportsInTheWindow : public MapWindow {
+ protected:
+  void ChooseOnMap(float lon, const QString& role) {
+    Look(0, lon, "mnu50NM");
+    const QPoint pixel = PixelOf(0, lon);
+    QContextMenuEvent ask(QContextMenuEvent::Mouse, pixel, Map().mapToGlobal(pixel));
+    QApplication::sendEvent(&Map(), &ask);
+    auto& menu = Find<QMenu>("mnuMapContext");
+    auto* roles = menu.findChild<QMenu*>("mnuAirportRole");
+    ASSERT_TRUE(roles);
+    roles->findChild<QAction*>(role)->trigger();
+    menu.close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  // Types into the dialog as soon as it is open; one that is never answered is closed.
+  void WhenItOpens(std::function<void(frmSelectAP&)> hands) {
+    answer = std::move(hands);
+    timer.setInterval(5);
+    timer.start();
+  }
+
+  AirportsInTheWindow() {
+    QObject::connect(&timer, &QTimer::timeout, [this] {
+      auto* dialog = qobject_cast<frmSelectAP*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      timer.stop();
+      ++opened;
+      answer(*dialog);
+      if (dialog->isVisible()) dialog->reject();
+    });
+  }
+
+  QTimer timer;
+  std::function<void(frmSelectAP&)> answer;
+  int opened = 0;
+};
+
+TEST_F(AirportsInTheWindow, AreChosenInTheDialogAndOnTheMap) {
+  Open();
+  WhenItOpens([](frmSelectAP& dialog) {
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("txtDepAP")->text(), "EDDA");
+    auto* destination = dialog.findChild<QLineEdit*>("txtDestAP");
+    QTest::keyClicks(destination, "eddb");
+    QTest::keyClick(destination, Qt::Key_Return);
+  });
+  ChooseOnMap(0, "mnuDeparture");
+  ASSERT_EQ(opened, 1) << "the destination is missing";
+  ASSERT_EQ(session.plan.RowCount(), 2);
+
+  ChooseOnMap(10, "mnuAlternate");
+  EXPECT_EQ(opened, 1) << "nothing is lost: nothing is asked";
+  EXPECT_EQ(session.plan.AlternateIndex, 1);
+  Trigger("mnuUndo");
+  EXPECT_EQ(session.plan.AlternateIndex, -1);
+  Trigger("mnuRedo");
+  EXPECT_EQ(session.plan.AlternateIndex, 1);
+
+  Trigger("mnuCreateLoAlt");
+  const int rows = session.plan.RowCount();
+  ASSERT_GT(rows, 2);
+  WhenItOpens([](frmSelectAP& dialog) { dialog.reject(); });
+  ChooseOnMap(0, "mnuDestination");
+  EXPECT_EQ(opened, 2) << "the route would be lost";
+  EXPECT_EQ(session.plan.RowCount(), rows);
+  WhenItOpens([](frmSelectAP& dialog) { dialog.accept(); });
+  Trigger("mnuSelectAP");
+  EXPECT_EQ(opened, 3);
+  EXPECT_EQ(session.plan.RowCount(), rows) << "the same airports leave the route";
 }
 
 }  // namespace
