@@ -74,6 +74,8 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   connect(panel, &pnlFlightplan::DeleteAsked, &editor, &PlanEditor::DeleteRow);
   connect(panel, &pnlFlightplan::RowCentred, this, &frmMap::CentreOnRow);
   connect(panel, &pnlFlightplan::AlternateAsked, &editor, &PlanEditor::ReplaceArrival);
+  connect(panel, &pnlFlightplan::StartChosen, &editor, &PlanEditor::SetStart);
+  connect(panel, &pnlFlightplan::WaypointPicked, &editor, &PlanEditor::InsertAfterSelection);
   connect(&editor, &PlanEditor::Changed, this, &frmMap::PlanChanged);
   connect(&editor, &PlanEditor::Started, this, &frmMap::ShowNewPlan);
   askPlanFile = [this](const QString& proposal) {

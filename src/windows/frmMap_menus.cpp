@@ -72,6 +72,8 @@ void frmMap::BuildPlanMenu() {
   plan->addAction(AddCommand(
       "mnuRoute", tr("&Route string"), [this] { txtRoute->Edit(); }, "Ctrl+R"));
   plan->addSeparator();
+  plan->addAction(AddCommand(
+      "mnuManWP", tr("Add a wa&ypoint"), [this] { panel->EditWaypoint(); }, "Ctrl+W"));
   plan->addAction(AddToggle(
       "mnuInsertWP", tr("&Insert waypoints on the map"), false, [this](bool on) { SetInserting(on); },
       "Ctrl+I"));

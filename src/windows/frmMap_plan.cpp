@@ -23,6 +23,7 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuCreateHiAlt", &PlanCommandStates::createRoute},
     {"mnuInsertWP", &PlanCommandStates::editRows},
     {"mnuSaveFPAs", &PlanCommandStates::save},
+    {"mnuManWP", &PlanCommandStates::editRows},
     {"mnuLevelUp", &PlanCommandStates::stepLevel},
     {"mnuLevelDown", &PlanCommandStates::stepLevel},
     {"mnuExtTable", &PlanCommandStates::extendedTable},

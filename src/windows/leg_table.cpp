@@ -25,7 +25,7 @@ struct ColumnLook {
 };
 constexpr std::array<ColumnLook, legColumns> columnLooks = {{{400, "", false},
                                                              {850, "MUMMO", false},
-                                                             {2000, "PELIX (UN852 245-660)", false},
+                                                             {2000, "MATUG (UN852 245-660)", false},
                                                              {700, "000.000", true},
                                                              {850, "000°/000°", true},
                                                              {750, "0000 NM", true},
@@ -109,7 +109,7 @@ class LegDelegate : public QStyledItemDelegate {
     const QString note = index.data(LegTableModel::noteRole).toString();
     QString name = index.data().toString();
     name.chop(note.size());
-    const QRect cell = option.rect.adjusted(cellPadding, 0, -cellPadding, 0);
+    const QRect cell = option.rect.adjusted(cellPadding, 1, -cellPadding, 1);
     const QFontMetrics& font = option.fontMetrics;
     const QString shownNote = font.elidedText(note, Qt::ElideRight, cell.width());
     const int noteWidth = font.horizontalAdvance(shownNote);

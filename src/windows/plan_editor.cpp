@@ -56,7 +56,10 @@ void PlanEditor::StartPlan(int departureRow, int destinationRow) {
 void PlanEditor::TakeAirports(const AirportChoice& choice) {
   const bool isNew = IsNewPlan(choice, session.plan);
   if (isNew) fromRouteString = false;
-  Change("frmMap SelectAirports (", [&] { ApplyAirports(session.plan, Context(), choice); });
+  Change("frmMap SelectAirports (", [&] {
+    if (isNew) session.navLog = {};
+    ApplyAirports(session.plan, Context(), choice);
+  });
   if (isNew && session.plan.RowCount() >= 2) Q_EMIT Started();
 }
 

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int sideMargin = 16;
 constexpr int tableMargin = 6;
+constexpr int startWidth = 190;
 
 QString CodeAt(const FlightPlan& plan, int row) {
   return QString::fromStdString(CodePageToUtf8(plan.Row(row).Code.View()));
@@ -37,7 +38,7 @@ QLabel* AddFigure(QHBoxLayout* row, const QString& caption, const QString& name,
   if (beside != nullptr) line->addWidget(beside);
   line->addStretch();
   column->addWidget(captionLabel);
-  column->addLayout(line);
+  column->addLayout(line, 1);
   row->addLayout(column);
   return figure;
 }
@@ -69,18 +70,28 @@ pnlFlightplan::pnlFlightplan(Session& session, QAction* levelUp, QAction* levelD
   layout->setSpacing(10);
   layout->addLayout(TitleRow());
   layout->addLayout(FigureRow(levelUp, levelDown));
-  layout->addLayout(ProcedureRow());
+  layout->addLayout(StartRow());
   grdWPTable = new LegTable(plan, cells, session.settings);
   auto* tableRow = new QHBoxLayout;
   tableRow->setContentsMargins(tableMargin, 2, 0, 0);
   tableRow->addWidget(grdWPTable);
   layout->addLayout(tableRow, 1);
+  entry = new WaypointEntry(plan, session.database);
+  entry->layout()->setContentsMargins(sideMargin, 0, sideMargin, 0);
+  connect(entry, &WaypointEntry::WaypointPicked, this, &pnlFlightplan::WaypointPicked);
+  layout->addWidget(entry);
   lblHint = NewLabel("lblHint", "quiet");
   lblHint->setWordWrap(true);
   lblHint->setContentsMargins(sideMargin, 0, sideMargin, 12);
   layout->addWidget(lblHint);
+  ConnectTable();
+  FitWidth();
+}
+
+void pnlFlightplan::ConnectTable() {
   connect(grdWPTable, &LegTable::RowPicked, this, [this] {
     ShowHint();
+    entry->Refresh();
     Q_EMIT RowPicked();
   });
   connect(grdWPTable, &LegTable::RowCentred, this, &pnlFlightplan::RowCentred);
@@ -90,7 +101,6 @@ pnlFlightplan::pnlFlightplan(Session& session, QAction* levelUp, QAction* levelD
   connect(grdWPTable, &LegTable::AlternateAsked, this, [this] {
     if (states.editRows) Q_EMIT AlternateAsked();
   });
-  FitWidth();
 }
 
 QLayout* pnlFlightplan::TitleRow() {
@@ -118,10 +128,20 @@ QLayout* pnlFlightplan::FigureRow(QAction* levelUp, QAction* levelDown) {
   return row;
 }
 
-QLayout* pnlFlightplan::ProcedureRow() {
+QLayout* pnlFlightplan::StartRow() {
   auto* row = new QHBoxLayout;
   row->setContentsMargins(sideMargin, 0, sideMargin, 0);
   row->setSpacing(26);
+  lstDep = new StartPositionBox;
+  lstDep->setFixedWidth(startWidth);
+  connect(lstDep, &StartPositionBox::StartChosen, this, [this] { Q_EMIT StartChosen(lstDep->Chosen()); });
+  auto* caption = new QLabel(tr("Start"));
+  caption->setProperty("quiet", true);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(1);
+  column->addWidget(caption);
+  column->addWidget(lstDep);
+  row->addLayout(column);
   lblSID = AddFigure(row, tr("SID"), "lblSID", NoneLabel("lblSID"));
   lblSTAR = AddFigure(row, tr("STAR"), "lblSTAR", NoneLabel("lblSTAR"));
   row->addStretch(1);
@@ -165,6 +185,10 @@ void pnlFlightplan::ShowCoords(bool on) {
 void pnlFlightplan::Refresh(const PlanCommandStates& now) {
   states = now;
   grdWPTable->Refresh();
+  lstDep->ShowPlan(session.database, plan);
+  lstDep->setEnabled(states.editRows && !lstDep->Starts().empty());
+  entry->setEnabled(states.editRows);
+  entry->Refresh();
   ShowFigures();
   ShowHint();
 }

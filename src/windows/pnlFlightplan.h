@@ -10,6 +10,8 @@
 #include "flightplan/plan_commands.h"
 #include "startup/session.h"
 #include "windows/leg_table.h"
+#include "windows/start_position_box.h"
+#include "windows/waypoint_entry.h"
 
 class pnlFlightplan : public QFrame {
   Q_OBJECT
@@ -25,6 +27,8 @@ class pnlFlightplan : public QFrame {
   void SetExtended(bool on);
   // Positions in the place of names.
   void ShowCoords(bool on);
+  // Brings the keyboard to the field for a waypoint.
+  void EditWaypoint() { entry->Edit(); }
 
  Q_SIGNALS:
   // The delete key on a row of the table.
@@ -35,11 +39,16 @@ class pnlFlightplan : public QFrame {
   void RowCentred(int row);
   // A click or Enter on the alternate's row.
   void AlternateAsked();
+  // Another start was chosen in lstDep; null: the airport's own position.
+  void StartChosen(const StartPosition* start);
+  // A waypoint was picked in lstWP.
+  void WaypointPicked(const PlanWaypoint& row);
 
  private:
   QLayout* TitleRow();
   QLayout* FigureRow(QAction* levelUp, QAction* levelDown);
-  QLayout* ProcedureRow();
+  QLayout* StartRow();
+  void ConnectTable();
   QWidget* LevelButtons(QAction* levelUp, QAction* levelDown);
   void FitWidth();
   void ShowFigures();
@@ -58,6 +67,8 @@ class pnlFlightplan : public QFrame {
   QLabel* lblCruiseSpeed;
   QLabel* lblSID;
   QLabel* lblSTAR;
+  StartPositionBox* lstDep;
+  WaypointEntry* entry;
   QLabel* lblHint;
   LegTable* grdWPTable;
 };

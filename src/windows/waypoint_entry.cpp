@@ -101,10 +101,10 @@ WaypointEntry::WaypointEntry(const FlightPlan& plan, const NavDatabase& database
   lstWP->verticalHeader()->hide();
   lstWP->verticalHeader()->setDefaultSectionSize(rowHeight);
   lstWP->horizontalHeader()->setSectionResizeMode(FoundWaypointModel::name, QHeaderView::Stretch);
-  const std::pair<int, int> widths[] = {{FoundWaypointModel::kind, 42},
+  const std::pair<int, int> widths[] = {{FoundWaypointModel::kind, 54},
                                         {FoundWaypointModel::code, 66},
                                         {FoundWaypointModel::frequency, 62},
-                                        {FoundWaypointModel::distance, 72},
+                                        {FoundWaypointModel::distance, 84},
                                         {FoundWaypointModel::course, 88}};
   for (const auto& [column, width] : widths)
     lstWP->setColumnWidth(column, width);

@@ -1,5 +1,6 @@
 // The plan's panel: the table with its layouts, its row of the alternate, its
 // keys, and the figures around it.
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTableView>
 
@@ -184,6 +185,38 @@ TEST_F(PlanPanel, APlanThatCannotBeChangedIsOnlyShown) {
   ClickRow(6);
   EXPECT_TRUE(messages.texts.empty());
   EXPECT_TRUE(Label("lblHint").contains("not changed or saved"));
+}
+
+TEST_F(PlanPanel, AWaypointTypedGoesBehindTheSelectedRow) {
+  OpenPlan();
+  ClickRow(2);
+  Trigger("mnuManWP");
+  auto& entry = Find<QLineEdit>("txtManWP");
+  QTest::keyClicks(&entry, "0.5,4");
+  QTest::keyClick(&entry, Qt::Key_Return);
+  ASSERT_EQ(session.plan.RowCount(), 7);
+  EXPECT_FLOAT_EQ(session.plan.Row(3).Lon, 4);
+  EXPECT_EQ(session.plan.SelectedRow, 3);
+  EXPECT_EQ(Cell(4, LegColumn::code), "C");
+}
+
+TEST_F(PlanPanel, TheStartIsChosenBesideThePlan) {
+  AirportRec& airport = session.database.airports[0];
+  airport.lngRunways = 1;
+  airport.firstRunway = static_cast<std::uint32_t>(session.database.runways.size());
+  RunwayRec& runway = session.database.runways.emplace_back();
+  runway.strRwyID = std::string_view("09");
+  runway.strRwyIDRecip = std::string_view("27");
+  runway.intLength = 6000;
+  OpenPlan();
+  auto& lstDep = Find<StartPositionBox>("lstDep");
+  ASSERT_EQ(lstDep.Starts().size(), 2u);
+  lstDep.Select(0);
+  Q_EMIT lstDep.StartChosen();
+  EXPECT_EQ(session.plan.DepartureID, "09");
+  Trigger("mnuUndo");
+  EXPECT_EQ(session.plan.DepartureID, "");
+  EXPECT_EQ(lstDep.Chosen(), nullptr);
 }
 
 TEST_F(PlanPanel, AChangeIsToldToTheTableOnce) {
