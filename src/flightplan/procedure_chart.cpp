@@ -14,7 +14,7 @@ namespace {
 constexpr double fitMargin = 1.22;
 constexpr double leastFitNM = 12;     // of the page's shorter side
 constexpr std::size_t mostNames = 3;  // below one another at one end
-constexpr float nameGap = 90;         // units between an end and its names
+constexpr float nameGap = 130;        // units between an end and its names
 constexpr float restingOpacity = 0.5F;
 
 const AirportRec& RowOf(const NavDatabase& database, std::int32_t airport) {
@@ -177,7 +177,7 @@ void ProcedureChart::DrawNames(DrawSurface& surface, const Projection& projectio
     end->names.insert(own ? end->names.begin() : end->names.end(), CodePageToUtf8(shown[i].Name.View()));
   }
   surface.FontSize = 8;
-  surface.TextHalo = true;
+  surface.FontBold = true;
   for (const End& end : ends) {
     if (picked >= 0 && !end.holdsPicked) continue;
     std::string label;
@@ -201,16 +201,16 @@ void ProcedureChart::Draw(DrawSurface& surface, const Projection& projection,
   const auto draw = [&](std::size_t i, bool strong) {
     PathStyle style;
     style.color = colors.ROUTE;
+    style.textColor = colors.TAXINAME;
     style.width = strong ? 2.8F : 1.4F;
     style.opacity = strong ? 1 : restingOpacity;
     style.markSize = strong ? 46.0F : 30.0F;
     style.fontPoints = strong ? 8.0F : 0.0F;
-    surface.TextHalo = true;
     DrawProcedurePath(surface, projection, paths[i], style);
   };
   for (std::size_t i = 0; i < paths.size(); ++i)
     if (static_cast<int>(i) != picked) draw(i, false);
-  surface.ResetStyle();
+  surface.Opacity = 1;
   DrawRunways(surface, projection, colors);
   if (picked >= 0) draw(static_cast<std::size_t>(picked), true);
   DrawNames(surface, projection, colors);
@@ -222,7 +222,10 @@ void ProcedureChart::DrawWithMap(DrawSurface& surface, MapView& view, const Sett
   for (MapLayer& layer : DatabaseLayers())
     if (layer.place == LayerPlace::worldShapes) layers.push_back(std::move(layer));
   layers.push_back({LayerPlace::procedures, "chart", [](const MapPaint&) { return true; },
-                    [this](const MapPaint& paint) { Draw(paint.surface, paint.projection, paint.colors); }});
+                    [this](const MapPaint& paint) {
+                      paint.surface.TextHalo = true;
+                      Draw(paint.surface, paint.projection, paint.colors);
+                    }});
   modDeclutter labels;
   const MapSwitches switches;
   DrawMap({view, labels, database, settings, switches, {}}, layers, surface);

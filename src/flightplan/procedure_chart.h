@@ -51,6 +51,7 @@ class ProcedureChart {
 
   // Brings the airport and everything shown onto a page of so many units.
   void FitView(MapView& view, SurfacePoint page) const;
+  // Texts have a halo if the surface has it at the call.
   void Draw(DrawSurface& surface, const Projection& projection, const ColorSettings& colors) const;
   // The coastlines below it, everything in the pilot's colours.
   void DrawWithMap(DrawSurface& surface, MapView& view, const Settings& settings) const;

@@ -31,8 +31,10 @@ void DrawSteps(const MapPaint& paint, const FlightPlan& plan, const std::vector<
   DropNamesOfRows(path, plan);
   PathStyle style;
   style.color = paint.colors.ROUTE;
+  style.textColor = paint.colors.TAXINAME;
   style.opacity = 0.8F;
   style.fontPoints = paint.RangeNM() <= labelRange ? LabelPoints(paint.settings, 8) : 0;
+  paint.surface.TextHalo = true;
   DrawProcedurePath(paint.surface, paint.projection, path, style);
 }
 
@@ -52,7 +54,7 @@ void DrawProcedurePath(DrawSurface& surface, const Projection& projection, const
   surface.DrawStyle = DrawStyleKind::dash;
   surface.Lines(vectored, style.color);
   surface.DrawStyle = DrawStyleKind::solid;
-  surface.ForeColor = style.color;
+  surface.ForeColor = style.textColor;
   for (const ProcedureMark& mark : path.marks) {
     const auto x = static_cast<float>(projection.LonToX(mark.place.lon));
     const auto y = static_cast<float>(projection.LatToY(mark.place.lat));

@@ -12,6 +12,7 @@ std::vector<MapLayer> ProcedureLayers(const FlightPlan& plan);
 // How one path is drawn.
 struct PathStyle {
   std::int32_t color = 0;
+  std::int32_t textColor = 0;
   float width = 1.8F;
   float opacity = 1;
   float markSize = 24;   // units, half of it

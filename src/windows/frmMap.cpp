@@ -11,6 +11,7 @@
 
 #include "base/error_trap.h"
 #include "flightplan/plan_layers.h"
+#include "flightplan/procedure_layer.h"
 #include "map/switch_settings.h"
 #include "settings/settings_file.h"
 #include "windows/window_place.h"
@@ -105,6 +106,8 @@ void frmMap::OpenView() {
   session.view.mnuAutozoom = session.switches.mnuAutozoom;
   layers = DatabaseLayers();
   for (const MapLayer& layer : PlanLayers(session.plan))
+    layers.push_back(layer);
+  for (const MapLayer& layer : ProcedureLayers(session.plan))
     layers.push_back(layer);
   layers = InDrawingOrder(std::move(layers));
   hoverSources = InSearchOrder(DatabaseHoverSources());

@@ -60,6 +60,7 @@ class frmMap : public QMainWindow {
   // Menus, bars, keys.
   void BuildMenus();
   void BuildPlanMenu();
+  void BuildProceduresMenu(QMenu* plan);
   void BuildAircraftMenu();
   void ListAircraft();
   void BuildViewMenu();
@@ -167,6 +168,9 @@ class frmMap : public QMainWindow {
   void BuildRouteField(class QToolBar* bar);
   void TakeRouteText();
   void SavePlan();
+  void WithFiledPlan(std::string_view head, const std::function<void()>& body);
+  void SelectProcedure(ProcedureKind kind);
+  void ShowDepArr();
   QString PlanFolder() const;
   void ShowAircraft();
   void ShowFuel();

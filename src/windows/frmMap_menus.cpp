@@ -91,6 +91,7 @@ void frmMap::BuildPlanMenu() {
       "mnuLevelUp", tr("Raise &the cruise level"), [this] { editor.StepLevel(true); }, "Ctrl+Up"));
   plan->addAction(AddCommand(
       "mnuLevelDown", tr("Low&er the cruise level"), [this] { editor.StepLevel(false); }, "Ctrl+Down"));
+  BuildProceduresMenu(plan);
   plan->addSeparator();
   plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { editor.NewPlan(); }));
   plan->addAction(AddCommand(
@@ -259,6 +260,7 @@ void frmMap::BuildToolBar() {
   AddButton(bar, actions["mnuCreateNavaid"], "cmdCreateFP", tr("Navaids"), "navaid_route");
   AddButton(bar, actions["mnuCreateLoAlt"], "cmdLoAlt", tr("Low route"), "low_route");
   AddButton(bar, actions["mnuCreateHiAlt"], "cmdHiAlt", tr("High route"), "high_route");
+  AddButton(bar, actions["mnuDepArr"], "cmdSIDSTAR", tr("SID/STAR"), "procedures");
   AddButton(bar, actions["mnuInsertWP"], "cmdInsertWP", {}, "insert_waypoint");
   AddButton(bar, actions["mnuFuel"], "cmdFuel", tr("Fuel"), "fuel");
   AddButton(bar, actions["mnuSaveFPAs"], "cmdSaveFPAs", tr("Save"), "save");

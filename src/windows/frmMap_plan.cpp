@@ -27,6 +27,12 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuLevelUp", &PlanCommandStates::stepLevel},
     {"mnuLevelDown", &PlanCommandStates::stepLevel},
     {"mnuExtTable", &PlanCommandStates::extendedTable},
+    {"mnuSelectSid", &PlanCommandStates::procedures},
+    {"mnuSelectStar", &PlanCommandStates::procedures},
+    {"mnuDisplaySid", &PlanCommandStates::deleteSid},
+    {"mnuDeleteSid", &PlanCommandStates::deleteSid},
+    {"mnuDisplayStar", &PlanCommandStates::deleteStar},
+    {"mnuDeleteStar", &PlanCommandStates::deleteStar},
     {"mnuUndo", &PlanCommandStates::undo},
     {"mnuRedo", &PlanCommandStates::redo},
 };

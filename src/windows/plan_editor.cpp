@@ -131,6 +131,23 @@ void PlanEditor::ReplaceArrival() {
   Change("frmMap grdWPTable (", [&] { AskReplaceArrivalByAlternate(session.plan, Context()); });
 }
 
+std::vector<SidStarEntry> PlanEditor::Procedures(ProcedureKind kind) const {
+  const HourglassWhile working(pointer);
+  const FlightPlan& plan = session.plan;
+  const PlanWaypoint& airport = plan.Row(kind == ProcedureKind::sid ? 0 : plan.DestinationRow());
+  return LoadProcedures(session.home, kind, airport.Code.View()).entries;
+}
+
+void PlanEditor::TakeProcedure(ProcedureKind kind, const SidStarEntry& entry) {
+  Change("frmDisplaySidStar cmdOK (",
+         [&] { (kind == ProcedureKind::sid ? ApplySid : ApplyStar)(session.plan, Context(), entry); });
+}
+
+void PlanEditor::DeleteProcedure(ProcedureKind kind) {
+  Change("frmMap mnuDeleteSid (",
+         [&] { (kind == ProcedureKind::sid ? AskDeleteSid : AskDeleteStar)(session.plan, Context()); });
+}
+
 void PlanEditor::NewPlan() {
   fromRouteString = false;
   Change("frmMap mnuNewFP (", [&] { ClearFlightPlan(session.plan); });

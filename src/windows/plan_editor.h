@@ -12,6 +12,7 @@
 #include "flightplan/airway_search.h"
 #include "flightplan/plan_commands.h"
 #include "flightplan/plan_context.h"
+#include "flightplan/procedure_file.h"
 #include "flightplan/route_generation.h"
 #include "flightplan/route_report.h"
 #include "platform/pointer_shape.h"
@@ -48,6 +49,12 @@ class PlanEditor : public QObject {
   void TakeRoute(const std::string& text);
   void DeleteEnrouteWPs();
   void DeleteRow(int row);
+  // What the file has for the plan's departure (SIDs) or destination (STARs).
+  // Throws std::runtime_error if it cannot be read.
+  std::vector<SidStarEntry> Procedures(ProcedureKind kind) const;
+  void TakeProcedure(ProcedureKind kind, const SidStarEntry& entry);
+  // On the pilot's yes.
+  void DeleteProcedure(ProcedureKind kind);
   // A waypoint behind the selected row.
   void InsertAfterSelection(const PlanWaypoint& row);
   // A waypoint pulled to another place, and one pulled out of the leg that leads to row.
