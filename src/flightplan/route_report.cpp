@@ -206,9 +206,10 @@ void ReportNoWay(const PlanContext& context, const FlightPlan& plan, int inserti
 
 void ReportPassedOver(const PlanContext& context, const std::string& word, std::size_t number) {
   if (context.report == nullptr) return;
-  const std::string reason = IsAirwayName(context.database, word)
-                                 ? "is an airway that does not leave the fix in front of it"
-                                 : "names nothing in the database";
+  const std::string reason =
+      IsAirwayName(context.database, word)
+          ? "is an airway, but the word in front of it is no intersection that it leaves"
+          : "names nothing in the database";
   Report(context, "Route string: word " + std::to_string(number) + " '" + CodePageToUtf8(word) + "' " +
                       reason + ", passed over");
 }

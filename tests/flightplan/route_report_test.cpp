@@ -88,12 +88,11 @@ TEST(RouteReport, NamesTheWordsOfARouteStringThatWereOfNoUse) {
       airports +
       "A 0 1\nB 0 3\nC 0 6\nD 0.5 6\nE 0 8\nA --120-- B V1\nB --180-- C V1\nE ==60== C UV2\nfix LONE 0 5\n");
   EXPECT_FALSE(ParseRoute(r.plan, r.reporting, "EDDA DCT A V1 D V1 LONE EDDB"));
-  EXPECT_EQ(
-      r.report.lines,
-      (Lines{"Route string: word 2 'DCT' names nothing in the database, passed over",
-             "Route string: word 6 'V1' is an airway that does not leave the fix in front of it, passed "
-             "over",
-             "Route string: D is not on airway V1; on the low network it leads from A to C (2 legs)"}));
+  EXPECT_EQ(r.report.lines,
+            (Lines{"Route string: word 2 'DCT' names nothing in the database, passed over",
+                   "Route string: word 6 'V1' is an airway, but the word in front of it is no intersection "
+                   "that it leaves, passed over",
+                   "Route string: D is not on airway V1; on the low network it leads from A to C (2 legs)"}));
   r.report.lines.clear();
   EXPECT_FALSE(ParseRoute(r.plan, r.reporting, "EDDA B V1 LONE EDDB"));
   EXPECT_EQ(
