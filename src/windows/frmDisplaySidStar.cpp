@@ -60,7 +60,6 @@ frmDisplaySidStar::frmDisplaySidStar(ProcedureKind kind, const std::string& airp
   columns->setSpacing(14);
   lstSidStar = new QListWidget(this);
   lstSidStar->setObjectName("lstSidStar");
-  lstSidStar->setUniformItemSizes(true);
   lstSidStar->setAccessibleName(sids ? tr("SIDs") : tr("STARs"));
   lstSidStar->setFixedWidth(310);
   columns->addWidget(lstSidStar);
@@ -107,6 +106,8 @@ void frmDisplaySidStar::BuildSteps() {
 }
 
 void frmDisplaySidStar::FillList(const std::string& runway, const std::string& inUse) {
+  // Scrolling lays the list out, which needs the heights of the style.
+  lstSidStar->ensurePolished();
   int row = entries.empty() ? -1 : 0;
   bool found = false;
   for (const SidStarEntry& entry : entries) {
