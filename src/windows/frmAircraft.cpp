@@ -275,7 +275,7 @@ void frmAircraft::accept() {
   }
   if (SelectedRow() < 0) return;
   std::string reason;
-  if (list != before && !WriteAircraftFile(file, list, &reason)) {
+  if (!WriteAircraftFile(file, list, &reason)) {
     messages.Show("The aircraft could not be saved.\n\n" + file.string() + ": " + reason,
                   MessageIcon::exclamation);
     return;
