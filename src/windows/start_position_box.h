@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QWheelEvent>
 #include <vector>
 
 #include "flightplan/start_positions.h"
@@ -34,6 +35,8 @@ class StartPositionBox : public QComboBox {
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  // Turning the wheel over the panel chooses nothing.
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
  private:
   void Take(int item);

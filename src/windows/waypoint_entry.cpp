@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "base/code_page.h"
@@ -85,7 +86,8 @@ WaypointEntry::WaypointEntry(const FlightPlan& plan, const NavDatabase& database
   txtManWP->setAccessibleName(tr("Waypoint to insert"));
   txtManWP->setPlaceholderText(tr("Add a waypoint: FFM, or N50 30 E008 30"));
   txtManWP->setToolTip(
-      tr("Ident of a navaid, intersection or fix, or a position; Enter puts it behind the selected row"));
+      tr("Ident of a navaid, intersection or fix, or a position; (Ctrl+W); Enter puts it behind the selected "
+         "row"));
   txtManWP->installEventFilter(this);
   lstWP = new QTableView(this);
   lstWP->setObjectName("lstWP");
@@ -112,6 +114,8 @@ WaypointEntry::WaypointEntry(const FlightPlan& plan, const NavDatabase& database
   layout->addWidget(txtManWP);
   layout->addWidget(lstWP);
   connect(txtManWP, &QLineEdit::textEdited, this, &WaypointEntry::Find);
+  auto* keys = new QShortcut(QKeySequence("Ctrl+W"), this);
+  connect(keys, &QShortcut::activated, this, &WaypointEntry::Edit);
   connect(lstWP, &QTableView::clicked, this, [this](const QModelIndex& index) { Pick(index.row()); });
 }
 
