@@ -352,4 +352,33 @@ TEST_F(AirportsInTheWindow, AreChosenInTheDialogAndOnTheMap) {
   EXPECT_EQ(session.plan.RowCount(), rows) << "the same airports leave the route";
 }
 
+TEST_F(AirportsInTheWindow, StartAndWaypointsAreChosenInThePanel) {
+  RunwayRec& runway = session.database.runways.emplace_back();
+  runway.strRwyID = std::string_view("09");
+  runway.strRwyIDRecip = std::string_view("27");
+  runway.sngHeading = 90;
+  runway.intLength = 12000;
+  session.database.airports[0].lngRunways = 1;
+  Open().Editor().StartPlan(0, 1);
+  auto& start = Find<StartPositionBox>("lstDep");
+  QTest::keyClicks(&start, "27");
+  start.lineEdit()->setText("27");
+  QTest::keyClick(&start, Qt::Key_Return);
+  EXPECT_EQ(session.plan.DepartureID, "27");
+  EXPECT_GT(session.plan.Row(0).Lon, 0.01F);
+
+  auto& text = Find<QLineEdit>("txtManWP");
+  for (const char* ident : {"b", "c"}) {
+    QTest::keyClicks(&text, ident);
+    QTest::keyClick(&text, Qt::Key_Return);
+  }
+  ASSERT_EQ(session.plan.RowCount(), 4);
+  EXPECT_EQ(session.plan.Row(1).Code, "B");
+  EXPECT_EQ(session.plan.Row(2).Code, "C") << "one goes behind the other";
+  for (int changes = 0; changes < 3; ++changes)
+    Trigger("mnuUndo");
+  EXPECT_EQ(session.plan.RowCount(), 2);
+  EXPECT_EQ(start.currentText(), "Airport reference point");
+}
+
 }  // namespace
