@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "base/code_page.h"
@@ -114,8 +113,6 @@ WaypointEntry::WaypointEntry(const FlightPlan& plan, const NavDatabase& database
   layout->addWidget(txtManWP);
   layout->addWidget(lstWP);
   connect(txtManWP, &QLineEdit::textEdited, this, &WaypointEntry::Find);
-  auto* keys = new QShortcut(QKeySequence("Ctrl+W"), this);
-  connect(keys, &QShortcut::activated, this, &WaypointEntry::Edit);
   connect(lstWP, &QTableView::clicked, this, [this](const QModelIndex& index) { Pick(index.row()); });
 }
 
