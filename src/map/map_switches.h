@@ -23,9 +23,9 @@ struct MapSwitches {
   bool mnuAutozoom = false;
   bool mnuAoM = true;          // the map follows the aircraft
   bool profileChosen = false;  // the pilot has switched the vertical picture himself
-  bool mnuProfile = true;      // the vertical picture
+  bool mnuProfile = false;     // the vertical picture; counts once it is chosen
 
-  bool mnuDisplaySid = true;   // the plan's departure and arrival; not stored
+  bool mnuDisplaySid = true;  // the plan's departure and arrival; not stored
   bool mnuDisplayStar = true;
 
   bool btnIcao = true;   // codes

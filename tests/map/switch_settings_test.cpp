@@ -33,20 +33,21 @@ TEST(SwitchSettings, EverySwitchHasItsPlaceForGood) {
     std::int32_t value;
   };
   const Case cases[] = {
-      {&Flags::mnuCoastlines, &Settings::MENU, 1},    {&Flags::mnuMSA, &Settings::MENU, 2},
-      {&Flags::mnuAirport, &Settings::MENU, 4},       {&Flags::mnuILS, &Settings::MENU, 8},
-      {&Flags::mnuVOR, &Settings::MENU, 16},          {&Flags::mnuNDB, &Settings::MENU, 32},
-      {&Flags::mnuIntersection, &Settings::MENU, 64}, {&Flags::mnuVictor, &Settings::MENU, 128},
-      {&Flags::mnuJet, &Settings::MENU, 256},         {&Flags::mnuGPSFix, &Settings::MENU, 512},
-      {&Flags::mnuUserWP, &Settings::MENU, 1024},     {&Flags::mnuSunrise, &Settings::MENU, 2048},
-      {&Flags::mnuAutozoom, &Settings::MENU, 4096},   {&Flags::mnuAoM, &Settings::MENU, 8192},
-      {&Flags::btnIcao, &Settings::BUTTON, 1},        {&Flags::btnName, &Settings::BUTTON, 2},
-      {&Flags::btnFreq, &Settings::BUTTON, 4},        {&Flags::mnuCtrz, &Settings::AIRSPACE, 1},
-      {&Flags::mnuAir1, &Settings::AIRSPACE, 2},      {&Flags::mnuAir2, &Settings::AIRSPACE, 4},
-      {&Flags::mnuCompass, &Settings::COMPMENU, -1},  {&Flags::mnuLatLong, &Settings::LATLONGMENU, -1},
+      {&Flags::mnuCoastlines, &Settings::MENU, 1},     {&Flags::mnuMSA, &Settings::MENU, 2},
+      {&Flags::mnuAirport, &Settings::MENU, 4},        {&Flags::mnuILS, &Settings::MENU, 8},
+      {&Flags::mnuVOR, &Settings::MENU, 16},           {&Flags::mnuNDB, &Settings::MENU, 32},
+      {&Flags::mnuIntersection, &Settings::MENU, 64},  {&Flags::mnuVictor, &Settings::MENU, 128},
+      {&Flags::mnuJet, &Settings::MENU, 256},          {&Flags::mnuGPSFix, &Settings::MENU, 512},
+      {&Flags::mnuUserWP, &Settings::MENU, 1024},      {&Flags::mnuSunrise, &Settings::MENU, 2048},
+      {&Flags::mnuAutozoom, &Settings::MENU, 4096},    {&Flags::mnuAoM, &Settings::MENU, 8192},
+      {&Flags::profileChosen, &Settings::MENU, 16384}, {&Flags::mnuProfile, &Settings::MENU, 32768},
+      {&Flags::btnIcao, &Settings::BUTTON, 1},         {&Flags::btnName, &Settings::BUTTON, 2},
+      {&Flags::btnFreq, &Settings::BUTTON, 4},         {&Flags::mnuCtrz, &Settings::AIRSPACE, 1},
+      {&Flags::mnuAir1, &Settings::AIRSPACE, 2},       {&Flags::mnuAir2, &Settings::AIRSPACE, 4},
+      {&Flags::mnuCompass, &Settings::COMPMENU, -1},   {&Flags::mnuLatLong, &Settings::LATLONGMENU, -1},
   };
-  // Every switch of the map is in the table.
-  EXPECT_EQ(std::size(cases), sizeof(MapSwitches) / sizeof(bool));
+  // Every switch of the map is in the table, but for the two of the plan's procedures.
+  EXPECT_EQ(std::size(cases) + 2, sizeof(MapSwitches) / sizeof(bool));
   Settings nothing;
   nothing.BUTTON = nothing.AIRSPACE = nothing.COMPMENU = nothing.LATLONGMENU = 0;
   nothing.MENU = storedBit;
@@ -67,7 +68,7 @@ TEST(SwitchSettings, UnknownBitsAreDropped) {
   MapSwitches switches = SwitchesFrom(settings);
   EXPECT_TRUE(switches.mnuCoastlines && switches.mnuAoM);
   StoreSwitches(switches, settings);
-  EXPECT_EQ(settings.MENU, storedBit | ((1 << 14) - 1));
+  EXPECT_EQ(settings.MENU, storedBit | ((1 << 16) - 1));
 }
 
 }  // namespace
