@@ -54,7 +54,8 @@ void StatusStrip::SetWidths() {
     label.ensurePolished();
     const QString shown = label.text();
     label.setText(WithWidestDigits(widest, label.fontMetrics()));
-    label.setMinimumWidth(label.sizeHint().width());
+    // Kerning makes some texts a little wider than the sum of the widest digits.
+    label.setMinimumWidth(label.sizeHint().width() + 2);
     label.setText(shown);
   }
 }
