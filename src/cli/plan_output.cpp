@@ -55,7 +55,7 @@ bool OpenPlan(const std::string& path, FlightPlan& plan, const PlanContext& cont
   std::string reason;
   const std::optional<FileBytes> file = ReadWholeFile(path, &reason);
   if (!file) {
-    Fail(path + ": " + reason);
+    Fail(reason);
     return false;
   }
   const PlanReading reading = ReadPlan(plan, context, file->Text());

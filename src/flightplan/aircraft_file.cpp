@@ -164,7 +164,7 @@ AircraftFile ParseAircraft(std::string_view text) {
 AircraftFile ReadAircraftFile(const std::filesystem::path& path) {
   std::string reason;
   const std::optional<FileBytes> bytes = ReadWholeFile(path, &reason);
-  if (!bytes) return {{}, {path.string() + ": " + reason}};
+  if (!bytes) return {{}, {reason}};
   AircraftFile file = ParseAircraft(bytes->Text());
   for (std::string& problem : file.problems)
     problem.insert(0, path.string() + ", ");

@@ -61,6 +61,6 @@ ProcedureList LoadProcedures(const AppFolder& home, ProcedureKind kind, std::str
   std::string reason;
   const auto contents = ReadWholeFile(path, &reason);
   if (!contents)
-    throw std::runtime_error(path.string() + ": " + reason + "; velmora-dbmanager --cifp DIR makes it");
+    throw std::runtime_error(reason + ". Departures and arrivals are made by velmora-dbmanager --cifp DIR");
   return ParseProcedures(contents->Bytes(), airport);
 }

@@ -276,8 +276,7 @@ void frmAircraft::accept() {
   if (SelectedRow() < 0) return;
   std::string reason;
   if (!WriteAircraftFile(file, list, &reason)) {
-    messages.Show("The aircraft could not be saved.\n\n" + file.string() + ": " + reason,
-                  MessageIcon::exclamation);
+    messages.Show("The aircraft could not be saved.\n\n" + reason, MessageIcon::exclamation);
     return;
   }
   QDialog::accept();
