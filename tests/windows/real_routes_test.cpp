@@ -1,5 +1,6 @@
 // Whole flights planned in the window over the bundled world, as a pilot plans
 // them: airports typed, a builder's button pressed, the plan saved and read back.
+#include <QLineEdit>
 #include <QTableView>
 #include <fstream>
 #include <sstream>
@@ -127,6 +128,19 @@ TEST_F(RealRoutes, ArePlannedWithTheButtons) {
     ExpectItComesBackFromItsFile();
     EXPECT_EQ(pointer.depth, 0);
   }
+
+  // A short hop by hand: two navaids typed, the second behind the first.
+  Trigger("mnuNewFP");
+  Fly(1);
+  ChooseAirports("EDFE", "EDFM");
+  for (const char* ident : {"CHA", "NKR"}) {
+    Trigger("mnuManWP");
+    QTest::keyClicks(&Find<QLineEdit>("txtManWP"), ident);
+    QTest::keyClick(&Find<QLineEdit>("txtManWP"), Qt::Key_Return);
+  }
+  EXPECT_EQ(Codes(session.plan), "EDFE CHA NKR EDFM ");
+  ExpectTrueFigures();
+  ExpectItComesBackFromItsFile();
 }
 
 }  // namespace
