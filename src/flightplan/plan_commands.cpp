@@ -11,6 +11,7 @@ PlanCommandStates CommandStates(const FlightPlan& plan, const PlanHistory& histo
           .print = plan.CanSave,
           .stepLevel = plan.CanSave,
           .editRows = hasRows && changeable,
+          .addWaypoint = changeable,
           .procedures = changeable,
           .deleteSid = !plan.SidName.empty(),
           .deleteStar = !plan.StarName.empty(),

@@ -14,6 +14,7 @@ struct PlanCommandStates {
   bool print = false;          // mnuPrintPlan
   bool stepLevel = false;      // updnFL
   bool editRows = false;       // rows inserted, moved, deleted
+  bool addWaypoint = true;     // mnuManWP; without a plan it says so
   bool procedures = true;      // mnuSelectSid, mnuSelectStar; without a plan they say so
   bool deleteSid = false;      // mnuDeleteSid, mnuDisplaySid
   bool deleteStar = false;     // mnuDeleteStar, mnuDisplayStar

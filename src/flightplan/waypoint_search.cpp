@@ -170,9 +170,7 @@ int InsertionRow(const FlightPlan& plan) {
 
 bool InsertAfterSelection(FlightPlan& plan, const PlanContext& context, const PlanWaypoint& row) {
   if (plan.RowCount() < 2) {
-    context.messages.Show(
-        "Select the departure and destination airports first by pressing the button <Select Airport>!",
-        MessageIcon::exclamation);
+    context.messages.Show(selectAirportsFirstText, MessageIcon::exclamation);
     return false;
   }
   int at = InsertionRow(plan);

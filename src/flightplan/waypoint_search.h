@@ -35,6 +35,10 @@ PlanWaypoint UserPositionRow(const FlightPlan& plan, const NavDatabase& database
 // STAR or the destination. 0 for a plan without rows.
 int InsertionRow(const FlightPlan& plan);
 
+// The pilot has no airports yet between which a waypoint could stand.
+constexpr std::string_view selectAirportsFirstText =
+    "Select the departure and destination airports first by pressing the button <Select Airport>!";
+
 // Inserts a row there and selects it. The leg that it parts loses its airway.
 // If the row before or behind is the same waypoint, that is selected instead.
 // Without airports the pilot is told to choose them. True if the plan has a row more.

@@ -161,6 +161,7 @@ class frmMap : public QMainWindow {
   void TakeAirport(const AirportChoice& choice);
   // Departure, destination, alternate: what the airports under the pointer can be.
   void AddAirportItems(QMenu& menu, const std::vector<MapObject>& objects);
+  void AddWaypoint();
   void PlanChanged();
   void ShowCommandStates();
   void ShowNewPlan();

@@ -73,7 +73,7 @@ void frmMap::BuildPlanMenu() {
       "mnuRoute", tr("&Route string"), [this] { txtRoute->Edit(); }, "Ctrl+R"));
   plan->addSeparator();
   plan->addAction(AddCommand(
-      "mnuManWP", tr("Add a wa&ypoint"), [this] { panel->EditWaypoint(); }, "Ctrl+W"));
+      "mnuManWP", tr("Add a wa&ypoint"), [this] { AddWaypoint(); }, "Ctrl+W"));
   plan->addAction(AddToggle(
       "mnuInsertWP", tr("&Insert waypoints on the map"), false, [this](bool on) { SetInserting(on); },
       "Ctrl+I"));

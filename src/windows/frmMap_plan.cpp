@@ -9,6 +9,7 @@
 #include "base/files.h"
 #include "flightplan/plan_file.h"
 #include "flightplan/plan_layers.h"
+#include "flightplan/waypoint_search.h"
 #include "navdata/airport_search.h"
 #include "windows/frmMap.h"
 #include "windows/frmSelectAP.h"
@@ -23,7 +24,7 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuCreateHiAlt", &PlanCommandStates::createRoute},
     {"mnuInsertWP", &PlanCommandStates::editRows},
     {"mnuSaveFPAs", &PlanCommandStates::save},
-    {"mnuManWP", &PlanCommandStates::editRows},
+    {"mnuManWP", &PlanCommandStates::addWaypoint},
     {"mnuLevelUp", &PlanCommandStates::stepLevel},
     {"mnuLevelDown", &PlanCommandStates::stepLevel},
     {"mnuExtTable", &PlanCommandStates::extendedTable},
@@ -99,6 +100,12 @@ void frmMap::AddAirportItems(QMenu& menu, const std::vector<MapObject>& objects)
     add("mnuDestination", tr("D&estination"), &AirportChoice::destination);
     add("mnuAlternate", tr("&Alternate"), &AirportChoice::alternate);
   }
+}
+
+void frmMap::AddWaypoint() {
+  if (session.plan.RowCount() < 2) return messages.Show(selectAirportsFirstText, MessageIcon::exclamation);
+  actions["mnuShowPlan"]->setChecked(true);
+  panel->EditWaypoint();
 }
 
 void frmMap::PlanChanged() {

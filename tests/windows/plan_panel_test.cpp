@@ -200,6 +200,18 @@ TEST_F(PlanPanel, AWaypointTypedGoesBehindTheSelectedRow) {
   EXPECT_EQ(Cell(4, LegColumn::code), "C");
 }
 
+TEST_F(PlanPanel, TheWaypointFieldIsReachedFromEverywhere) {
+  Open();
+  Trigger("mnuManWP");
+  EXPECT_EQ(messages.texts.back(),
+            "Select the departure and destination airports first by pressing the button <Select Airport>!");
+  OpenPlan();
+  Trigger("mnuShowPlan");
+  EXPECT_FALSE(Find<QLineEdit>("txtManWP").isVisible());
+  Trigger("mnuManWP");
+  EXPECT_TRUE(Find<QLineEdit>("txtManWP").isVisible());
+}
+
 TEST_F(PlanPanel, TheStartIsChosenBesideThePlan) {
   AirportRec& airport = session.database.airports[0];
   airport.lngRunways = 1;
