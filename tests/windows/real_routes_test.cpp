@@ -31,6 +31,8 @@ class RealRoutes : public MapWindow {
     session.database = std::move(load.database);
     session.aircraftList = ReadAircraftFile(session.home.Resolve(aircraftFileName)).aircraft;
     Open();
+    // What the map looks like is not asked here.
+    Map().drawPicture = [](DrawSurface&) {};
     window->askPlanFile = [this](const QString&) { return QString::fromStdString(PlanFile()); };
   }
 
