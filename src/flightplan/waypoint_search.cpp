@@ -123,7 +123,7 @@ std::vector<FoundWaypoint> FindWaypoints(const FlightPlan& plan, const NavDataba
     found.push_back(Found(UserPositionRow(plan, database, *place), from));
   Collector collector(ident, from);
   collector.Walk(database.intersections, Table::intersections,
-                 static_cast<std::size_t>(database.lngIntersections + 1));
+                 static_cast<std::size_t>(database.lngIntersections) + 1);
   collector.Walk(database.vors, Table::vors, database.vors.size());
   collector.Walk(database.ndbs, Table::ndbs, database.ndbs.size());
   collector.Walk(database.fixes, Table::fixes, database.fixes.size());

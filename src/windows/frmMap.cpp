@@ -42,6 +42,7 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   setObjectName("frmMap");
   setWindowTitle(QString::fromUtf8(messageTitle.data(), messageTitle.size()));
   setMinimumSize(smallestSize);
+  setAcceptDrops(true);
   OpenView();
   auto* middle = new QWidget(this);
   auto* rows = new QVBoxLayout(middle);
@@ -79,6 +80,9 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   connect(panel, &pnlFlightplan::WaypointPicked, &editor, &PlanEditor::InsertAfterSelection);
   connect(&editor, &PlanEditor::Changed, this, &frmMap::PlanChanged);
   connect(&editor, &PlanEditor::Started, this, &frmMap::ShowNewPlan);
+  askOpenFile = [this](const QString& folder) {
+    return QFileDialog::getOpenFileName(this, tr("Open flight plan"), folder, tr("Flight plans (*.pln)"));
+  };
   askPlanFile = [this](const QString& proposal) {
     return QFileDialog::getSaveFileName(this, tr("Save flight plan"), proposal, tr("Flight plans (*.pln)"));
   };

@@ -5,7 +5,7 @@
 // frmMap.cpp has the window and the view, frmMap_menus.cpp the menus, bars and
 // keys, frmMap_panels.cpp the status panels, frmMap_gestures.cpp what the
 // pointer does on the map, frmMap_plan_gestures.cpp what it does there to the
-// plan, frmMap_plan.cpp the plan, frmMap_profile.cpp its vertical picture,
+// plan, frmMap_plan.cpp the plan, frmMap_plan_files.cpp its files, frmMap_profile.cpp its vertical picture,
 // frmMap_aircraft.cpp the aircraft and their fuel.
 #pragma once
 
@@ -49,12 +49,16 @@ class frmMap : public QMainWindow {
 
   // Asks for the name of a plan file; empty: not saved. The file dialog, unless replaced.
   std::function<QString(const QString& proposal)> askPlanFile;
+  // Asks for a plan file in a folder; empty: none is opened. The file dialog, unless replaced.
+  std::function<QString(const QString& folder)> askOpenFile;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   // Menus, bars, keys.
@@ -169,6 +173,7 @@ class frmMap : public QMainWindow {
   void BuildRouteField(class QToolBar* bar);
   void TakeRouteText();
   void SavePlan();
+  void OpenPlan();
   void WithFiledPlan(std::string_view head, const std::function<void()>& body);
   void SelectProcedure(ProcedureKind kind);
   void ShowDepArr();

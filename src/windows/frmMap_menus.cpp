@@ -95,6 +95,8 @@ void frmMap::BuildPlanMenu() {
   plan->addSeparator();
   plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { editor.NewPlan(); }));
   plan->addAction(AddCommand(
+      "mnuOpenFP", tr("&Open..."), [this] { OpenPlan(); }, "Ctrl+O"));
+  plan->addAction(AddCommand(
       "mnuSaveFPAs", tr("&Save as..."), [this] { SavePlan(); }, "Ctrl+S"));
   plan->addSeparator();
   plan->addAction(AddCommand(

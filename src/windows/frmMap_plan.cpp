@@ -1,13 +1,9 @@
 // The plan in the main window: what shows it, and which commands it allows.
 // What the commands do is the editor's.
-#include <QDir>
-#include <QFileDialog>
 #include <QLayout>
 #include <QMenu>
 
 #include "base/code_page.h"
-#include "base/files.h"
-#include "flightplan/plan_file.h"
 #include "flightplan/plan_layers.h"
 #include "flightplan/waypoint_search.h"
 #include "navdata/airport_search.h"
@@ -154,28 +150,4 @@ void frmMap::ShowNewPlan() {
 
 void frmMap::TakeRouteText() {
   if (txtRoute->CanTake()) editor.TakeRoute(txtRoute->text().trimmed().toStdString());
-}
-
-QString frmMap::PlanFolder() const {
-  const std::string& chosen =
-      session.settings.FSX != 0 ? session.settings.FPPATH10 : session.settings.FPPATH09;
-  if (!chosen.empty()) return QString::fromStdString(chosen);
-  return QString::fromStdString(session.home.Resolve("\\FSplan").string());
-}
-
-void frmMap::SavePlan() {
-  Trapped("frmMap mnuSaveFPAs (", [&] {
-    const std::string text = WritePlan(session.plan, session.database, PlanFormat::FS);
-    const QDir folder(PlanFolder());
-    if (!folder.exists()) folder.mkpath(".");
-    const FlightPlan& plan = session.plan;
-    const std::string name =
-        plan.Row(0).Code.Text() + " to " + plan.Row(plan.DestinationRow()).Code.Text() + ".pln";
-    QString path = askPlanFile(folder.filePath(QString::fromStdString(name)));
-    if (path.isEmpty()) return;
-    if (!path.endsWith(".pln", Qt::CaseInsensitive)) path += ".pln";
-    std::string reason;
-    if (!ReplaceFile(std::filesystem::path(path.toStdString()), text, &reason))
-      messages.Show("The flight plan could not be saved.\n\n" + reason, MessageIcon::exclamation);
-  });
 }

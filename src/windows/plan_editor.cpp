@@ -1,9 +1,11 @@
 #include "windows/plan_editor.h"
 
 #include "base/error_trap.h"
+#include "base/files.h"
 #include "flightplan/cruise_level.h"
 #include "flightplan/plan_drag.h"
 #include "flightplan/plan_legs.h"
+#include "flightplan/plan_reader.h"
 #include "flightplan/plan_rows.h"
 #include "flightplan/procedures.h"
 #include "flightplan/route_parser.h"
@@ -91,6 +93,24 @@ void PlanEditor::TakeRoute(const std::string& text) {
     ParseRoute(session.plan, Context(), text);
   });
   if (session.plan.RowCount() >= 2) Q_EMIT Started();
+}
+
+void PlanEditor::OpenPlan(const std::filesystem::path& file) {
+  std::string reason;
+  const std::optional<FileBytes> bytes = ReadWholeFile(file, &reason);
+  if (!bytes)
+    return messages.Show("The flight plan could not be opened.\n\n" + reason, MessageIcon::exclamation);
+  bool opened = false;
+  Change("Check frmSaveRoute cmdOK (", [&] {
+    const PlanReading reading = ReadPlan(session.plan, Context(), bytes->Text());
+    for (const std::string& problem : reading.problems)
+      report.lines.push_back(file.string() + ": " + problem);
+    opened = reading.valid;
+    if (!opened) return;
+    session.navLog = {};
+    fromRouteString = false;
+  });
+  if (opened) Q_EMIT Started();
 }
 
 void PlanEditor::DeleteEnrouteWPs() {

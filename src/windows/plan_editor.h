@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -47,6 +48,9 @@ class PlanEditor : public QObject {
   void GenerateRoute(AirwayNetwork network);
   // The plan that text says.
   void TakeRoute(const std::string& text);
+  // The plan of a file (plan_reader.h). One that cannot be read leaves the plan
+  // as it is and is told; what cannot be taken from it goes into the protocol log.
+  void OpenPlan(const std::filesystem::path& file);
   void DeleteEnrouteWPs();
   void DeleteRow(int row);
   // What the file has for the plan's departure (SIDs) or destination (STARs).
