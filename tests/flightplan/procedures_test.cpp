@@ -2,40 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "base/binary.h"
-#include "navdata/file_records.h"
 #include "tests/flightplan/drawn_world.h"
+#include "tests/flightplan/procedure_bytes.h"
 
 namespace {
 
-struct StepText {
-  const char* code;
-  float lat;
-  float lon;
-};
-
-void AppendProcedure(std::vector<std::byte>& bytes, const char* airport, const char* runway, const char* name,
-                     const std::vector<StepText>& steps) {
-  ProcedureFileHeader header;
-  header.strAirport = std::string_view(airport);
-  header.strRunway = std::string_view(runway);
-  header.strName = std::string_view(name);
-  header.bytSteps = static_cast<std::uint8_t>(steps.size());
-  AppendRecord(bytes, header);
-  for (const StepText& step : steps) {
-    ProcedureStepFileRecord record;
-    record.strType = std::string_view("TF");
-    record.strCode = std::string_view(step.code);
-    record.sngLat = step.lat;
-    record.sngLon = step.lon;
-    record.sngTrack = 123.5F;
-    AppendRecord(bytes, record);
-  }
-}
-
 std::vector<std::byte> SmallFile() {
   std::vector<std::byte> bytes;
-  AppendProcedure(bytes, "EDDA", "09L", "ALPHA1A", {{"A", 50, 9}, {"", 50.1F, 9.1F}, {"B", 50.019F, 10}});
+  AppendProcedure(bytes, "EDDA", "09L", "ALPHA1A",
+                  {{"A", 50, 9}, {"", 50.1F, 9.1F}, {"B", 50.019F, 10, 123.5F}});
   AppendProcedure(bytes, "EDDX", "27", "OTHER1X", {{"A", 50, 9}});
   AppendProcedure(bytes, "EDDA", "00", "EMPTY1B", {});
   AppendProcedure(bytes, "edda", "00ABC", "SOUTH2C", {{"V", 50, 8.5F}, {"N", 50, 8.7F}, {"F", 50, 8.8F}});
@@ -85,7 +60,7 @@ TEST(ProcedureFile, ACutFileGivesItsWholeEntries) {
 TEST(Procedures, StepsLinkByNameAndPlace) {
   Departing d;
   const struct {
-    StepText step;
+    FileStep step;
     char letter;
   } cases[] = {{{"A", 50, 9}, 'I'},       {{"A", 50.0199F, 8.9801F}, 'I'},
                {{"A", 50.03F, 9}, 'M'},   {{"A", 50, 9.03F}, 'M'},

@@ -6,38 +6,13 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include "base/binary.h"
-#include "navdata/file_records.h"
+#include "tests/flightplan/procedure_bytes.h"
 #include "tests/windows/map_window.h"
 #include "windows/frmDepArr.h"
 #include "windows/frmDisplaySidStar.h"
 #include "windows/procedure_page.h"
 
 namespace {
-
-struct FileStep {
-  const char* code;
-  float lat, lon, track;
-};
-
-void Append(std::vector<std::byte>& bytes, const char* airport, const char* runway, const char* name,
-            const std::vector<FileStep>& steps) {
-  ProcedureFileHeader header;
-  header.strAirport = std::string_view(airport);
-  header.strRunway = std::string_view(runway);
-  header.strName = std::string_view(name);
-  header.bytSteps = static_cast<std::uint8_t>(steps.size());
-  AppendRecord(bytes, header);
-  for (const FileStep& step : steps) {
-    ProcedureStepFileRecord record;
-    record.strType = std::string_view("TF");
-    record.strCode = std::string_view(step.code);
-    record.sngLat = step.lat;
-    record.sngLon = step.lon;
-    record.sngTrack = step.track;
-    AppendRecord(bytes, record);
-  }
-}
 
 class ProcedureWindows : public MapWindow {
  protected:
@@ -57,10 +32,10 @@ class ProcedureWindows : public MapWindow {
 
   void WriteFiles() {
     std::vector<std::byte> sids, stars;
-    Append(sids, "EDDA", "27", "WEST1A", {{"X", 0, -1, 270}});
-    Append(sids, "EDDA", "09", "EAST1A", {{"A", 0, 0.3F, 90}, {"OFF", 0.4F, 2, 80}});
-    Append(sids, "EDDA", "00", "ANY1X", {{"B", 0, 3, 90}});
-    Append(stars, "EDDB", "00", "IN1A", {{"C", 0, 6, 90}, {"Z", 0, 9.8F, 90}});
+    AppendProcedure(sids, "EDDA", "27", "WEST1A", {{"X", 0, -1, 270}});
+    AppendProcedure(sids, "EDDA", "09", "EAST1A", {{"A", 0, 0.3F, 90}, {"OFF", 0.4F, 2, 80}});
+    AppendProcedure(sids, "EDDA", "00", "ANY1X", {{"B", 0, 3, 90}});
+    AppendProcedure(stars, "EDDB", "00", "IN1A", {{"C", 0, 6, 90}, {"Z", 0, 9.8F, 90}});
     const auto text = [](const std::vector<std::byte>& bytes) {
       return std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     };
