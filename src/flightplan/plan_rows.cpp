@@ -37,11 +37,6 @@ void RefreshRowsFrom(FlightPlan& plan, const PlanContext& context, int firstRow)
   }
 }
 
-bool AreDoubled(const PlanWaypoint& row, const PlanWaypoint& next) {
-  return EqualNoCase(row.Code.View(), next.Code.View()) &&
-         GreatCircleDistance(row.Lat, row.Lon, next.Lat, next.Lon) <= doubledNeighbourDistance;
-}
-
 void TakeAirway(PlanWaypoint& row, const PlanWaypoint& removed) {
   row.Airway = removed.Airway;
   row.AirwayMinAlt = removed.AirwayMinAlt;
@@ -49,6 +44,11 @@ void TakeAirway(PlanWaypoint& row, const PlanWaypoint& removed) {
 }
 
 }  // namespace
+
+bool AreDoubled(const PlanWaypoint& row, const PlanWaypoint& next) {
+  return EqualNoCase(row.Code.View(), next.Code.View()) &&
+         GreatCircleDistance(row.Lat, row.Lon, next.Lat, next.Lon) <= doubledNeighbourDistance;
+}
 
 void SetDepartureAndDestination(FlightPlan& plan, const PlanContext& context, int departureRow,
                                 int destinationRow) {

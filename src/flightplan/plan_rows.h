@@ -8,6 +8,7 @@
 
 // Doubled neighbours are rows of one code that lie this close together (NM).
 constexpr double doubledNeighbourDistance = 1.0;
+bool AreDoubled(const PlanWaypoint& row, const PlanWaypoint& next);
 
 // Starts a new plan between two rows of the airport table: direct, filed, with
 // its leg, totals and level computed. The positions are the airports' own.

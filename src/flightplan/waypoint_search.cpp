@@ -105,10 +105,7 @@ bool IsSameObject(const PlanWaypoint& fix, const PlanWaypoint& other) {
 
 // True if a row between the airports is the same waypoint: the table would join the two.
 bool IsThere(const FlightPlan& plan, int rowIndex, const PlanWaypoint& waypoint) {
-  if (rowIndex < 1 || rowIndex >= plan.DestinationRow()) return false;
-  const PlanWaypoint& row = plan.Row(rowIndex);
-  return EqualNoCase(row.Code.View(), waypoint.Code.View()) &&
-         GreatCircleDistance(row.Lat, row.Lon, waypoint.Lat, waypoint.Lon) <= doubledNeighbourDistance;
+  return rowIndex >= 1 && rowIndex < plan.DestinationRow() && AreDoubled(plan.Row(rowIndex), waypoint);
 }
 
 }  // namespace

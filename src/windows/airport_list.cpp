@@ -3,16 +3,12 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
-#include "base/code_page.h"
 #include "navdata/airport_search.h"
+#include "windows/code_page_text.h"
 
 namespace {
 
 constexpr int lineHeight = 25;
-
-QString Utf8(std::string_view codePageText) {
-  return QString::fromStdString(CodePageToUtf8(codePageText));
-}
 
 }  // namespace
 
@@ -46,13 +42,13 @@ int AirportListModel::columnCount(const QModelIndex& parent) const {
 QString AirportListModel::Text(const AirportRec& airport, int column) const {
   switch (column) {
     case code:
-      return Utf8(airport.strCode.View());
+      return FromCodePage(airport.strCode.View());
     case name:
-      return Utf8(airport.strName.View());
+      return FromCodePage(airport.strName.View());
     case city:
-      return Utf8(airport.strCity.View());
+      return FromCodePage(airport.strCity.View());
     case country:
-      return Utf8(airport.strCountry.View());
+      return FromCodePage(airport.strCountry.View());
     case runway: {
       const std::int32_t feet = LongestRunwayFeet(database, airport);
       return feet > 0 ? tr("%L1 ft").arg(feet) : QString();

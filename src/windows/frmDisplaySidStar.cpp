@@ -8,15 +8,12 @@
 #include "base/code_page.h"
 #include "base/numbers.h"
 #include "flightplan/procedure_chart.h"
+#include "windows/code_page_text.h"
 
 namespace {
 
 QString Text(const std::string& utf8) {
   return QString::fromStdString(utf8);
-}
-
-QString Utf8(std::string_view codePageText) {
-  return Text(CodePageToUtf8(codePageText));
 }
 
 QString ConstraintText(const ProcedureStep& step) {
@@ -111,7 +108,7 @@ void frmDisplaySidStar::FillList(const std::string& runway, const std::string& i
   int row = entries.empty() ? -1 : 0;
   bool found = false;
   for (const SidStarEntry& entry : entries) {
-    lstSidStar->addItem(Utf8(entry.ListText()));
+    lstSidStar->addItem(FromCodePage(entry.ListText()));
     const bool used = !inUse.empty() && CodePageToUtf8(entry.Name.View()) == inUse;
     // Of the same name for several runways the first is meant, which is the chosen runway's.
     if (!used || found) continue;
@@ -135,13 +132,13 @@ void frmDisplaySidStar::ShowSteps() {
   lstSteps->clear();
   const SidStarEntry* entry = Chosen();
   cmdOK->setEnabled(entry != nullptr);
-  lblSteps->setText(entry ? Utf8(entry->ListText()) : QString());
+  lblSteps->setText(entry ? FromCodePage(entry->ListText()) : QString());
   if (entry == nullptr) return;
   for (const ProcedureStep& step : entry->Steps) {
     const bool begins = step.Type == "IF" && step.Distance == 0;
     auto* item = new QTreeWidgetItem(
         lstSteps,
-        {Utf8(step.Code.View()), Utf8(step.Type.View()),
+        {FromCodePage(step.Code.View()), FromCodePage(step.Type.View()),
          begins ? QString() : Text(FormatPicture(RoundToEven(step.Track), "000") + "°"),
          step.Distance > 0 ? Text(FormatPicture(step.Distance, "##0.0")) : QString(), ConstraintText(step)});
     for (const int column : {2, 3})

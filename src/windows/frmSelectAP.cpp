@@ -9,6 +9,7 @@
 
 #include "base/code_page.h"
 #include "navdata/geodesy.h"
+#include "windows/code_page_text.h"
 
 namespace {
 
@@ -16,10 +17,6 @@ constexpr QSize openingSize(1020, 680);
 constexpr int fieldWidth = 250;
 constexpr int longestTyped = 60;
 constexpr const char* parting = "  ·  ";
-
-QString Utf8(std::string_view codePageText) {
-  return QString::fromStdString(CodePageToUtf8(codePageText));
-}
 
 void SetFault(QLabel& label, bool fault) {
   label.setProperty("fault", fault);
@@ -180,7 +177,8 @@ const AirportRec* frmSelectAP::Airport(Role role) const {
 }
 
 QString frmSelectAP::CodeOf(std::int32_t row) const {
-  return row >= 0 ? Utf8(database.airports.at(static_cast<std::size_t>(row)).strCode.View()) : QString();
+  return row >= 0 ? FromCodePage(database.airports.at(static_cast<std::size_t>(row)).strCode.View())
+                  : QString();
 }
 
 frmSelectAP::Role frmSelectAP::RoleOf(const QObject* text) const {
@@ -318,7 +316,7 @@ void frmSelectAP::ShowField(Role role) {
   SetFault(*field.details, nothing);
   field.name->setVisible(field.row >= 0);
   if (const AirportRec* airport = Airport(role)) {
-    field.name->setText(Utf8(airport->strName.View()));
+    field.name->setText(FromCodePage(airport->strName.View()));
     field.details->setText(DetailsOf(role));
     return;
   }
@@ -335,7 +333,7 @@ void frmSelectAP::ShowField(Role role) {
 QString frmSelectAP::DetailsOf(Role role) const {
   const AirportRec& airport = *Airport(role);
   QStringList place;
-  for (const QString& part : {Utf8(airport.strCity.View()), Utf8(airport.strCountry.View())})
+  for (const QString& part : {FromCodePage(airport.strCity.View()), FromCodePage(airport.strCountry.View())})
     if (!part.isEmpty()) place << part;
   QStringList details;
   if (!place.isEmpty()) details << place.join(", ");

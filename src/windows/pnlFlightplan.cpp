@@ -4,8 +4,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "base/code_page.h"
 #include "flightplan/plan_figures.h"
+#include "windows/code_page_text.h"
 #include "windows/icons.h"
 
 namespace {
@@ -15,7 +15,7 @@ constexpr int tableMargin = 6;
 constexpr int startWidth = 190;
 
 QString CodeAt(const FlightPlan& plan, int row) {
-  return QString::fromStdString(CodePageToUtf8(plan.Row(row).Code.View()));
+  return FromCodePage(plan.Row(row).Code.View());
 }
 
 QLabel* NewLabel(const QString& name, const char* look = nullptr) {

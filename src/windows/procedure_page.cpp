@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "base/code_page.h"
+#include "windows/code_page_text.h"
 #include "windows/qt_painter_surface.h"
 #include "windows/style.h"
 
@@ -70,7 +70,7 @@ bool PrintProcedure(const ProcedureChart& chart, QPagedPaintDevice& device) {
   top = area.bottom() + gap;
   if (chart.Picked() >= 0) {
     const SidStarEntry& entry = chart.Shown()[static_cast<std::size_t>(chart.Picked())];
-    line(QString::fromStdString(CodePageToUtf8(entry.Name.View())), PageFont(12, true));
+    line(FromCodePage(entry.Name.View()), PageFont(12, true));
     line(QString::fromStdString(chart.Text()), PageFont(11));
   }
   return painter.end();

@@ -5,18 +5,14 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
-#include "base/code_page.h"
 #include "base/numbers.h"
+#include "windows/code_page_text.h"
 
 namespace {
 
 constexpr int rowHeight = 25;
 constexpr int mostRowsShown = 7;
 constexpr int firstSelected = 0;
-
-QString Utf8(std::string_view codePageText) {
-  return QString::fromStdString(CodePageToUtf8(codePageText));
-}
 
 QString Picture(double value, std::string_view picture) {
   return QString::fromStdString(FormatPicture(value, picture));
@@ -43,11 +39,11 @@ QString FoundWaypointModel::Text(const FoundWaypoint& waypoint, int column) cons
   const bool seenFromSomewhere = waypoint.distance > 0;
   switch (column) {
     case kind:
-      return Utf8(row.Sym.View());
+      return FromCodePage(row.Sym.View());
     case code:
-      return Utf8(row.Code.View());
+      return FromCodePage(row.Code.View());
     case name:
-      return row.Name == row.Code.View() ? QString() : Utf8(row.Name.View());
+      return row.Name == row.Code.View() ? QString() : FromCodePage(row.Name.View());
     case frequency:
       return row.Freq > 0 ? Picture(row.Freq, "###.00") : QString();
     case distance:
