@@ -50,6 +50,8 @@ struct Settings {
   std::int32_t FPSEL = 81;  // bit i: save format i
   std::string FPPATH09, FPPATH10, SQUAWKBOXPATH, IVAOPATH, FSINNPATH, RADCONPATH, PROMAGPATH, TSPATH,
       XPLANEPATH;
+  std::string FSXPLANPATH, MSFSPATH, XPLANE11PATH, FLIGHTGEARPATH, GARMINPATH, GPXPATH;
+  std::string RECENT1, RECENT2, RECENT3, RECENT4, RECENT5;  // plan files last used, the latest first
   // Color
   ColorSettings colors;
   // Map

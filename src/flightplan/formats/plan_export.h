@@ -1,0 +1,36 @@
+// A plan on its way to another program: what the writers of the formats are
+// given. A writer is one function from it to the file's bytes; where they go is
+// plan_formats.h's, putting them there save_plan.h's.
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+
+#include "flightplan/aircraft.h"
+#include "flightplan/flight_plan.h"
+#include "flightplan/fuel_plan.h"
+#include "flightplan/plan_context.h"
+#include "navdata/nav_database.h"
+
+// The plan has its departure and destination.
+struct PlanExport {
+  const FlightPlan& plan;
+  const NavDatabase& database;
+  const AircraftRec& aircraft;
+  double finalFixDistance = 8.5;    // NM (setting FAFDIST)
+  int fuelUnit = 0;                 // setting FUEL
+  std::optional<FuelFigures> fuel;  // none if the aircraft's data give none
+  bool withProcedures = true;       // the rows of SID and STAR too
+  std::chrono::sys_seconds now{};   // UTC
+  std::string airacCycle;           // "2013.10"; empty: unknown
+};
+
+// Throws std::logic_error for a plan without its airports.
+PlanExport MakePlanExport(const FlightPlan& plan, const PlanContext& context, int fuelUnit,
+                          std::chrono::sys_seconds now, std::string airacCycle);
+
+// The plan's airports. The alternate is null without one.
+const AirportRec& DepartureOf(const PlanExport& plan);
+const AirportRec& DestinationOf(const PlanExport& plan);
+const AirportRec* AlternateOf(const PlanExport& plan);

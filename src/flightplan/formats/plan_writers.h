@@ -1,0 +1,12 @@
+// The writers of the plan formats: each is one function from the plan to the
+// file's bytes, in a file of its own. All throw std::logic_error for a plan
+// without its airports.
+#pragma once
+
+#include <string>
+
+#include "flightplan/formats/plan_export.h"
+
+// plan_file.h's three, as the table of formats wants them.
+std::string WriteOwnPlan(const PlanExport& plan);
+std::string WriteSimulatorPlan(const PlanExport& plan);
