@@ -217,6 +217,13 @@ void TakeRows(FlightPlan& plan, const PlanContext& context, const PlanText& file
 
 }  // namespace
 
+bool IsOwnPlan(std::string_view text) {
+  constexpr std::string_view mark = "[VLM";
+  for (std::size_t at = text.find(mark); at != std::string_view::npos; at = text.find(mark, at + 1))
+    if (at == 0 || text[at - 1] == '\n' || text[at - 1] == '\r') return true;
+  return false;
+}
+
 PlanReading ReadPlan(FlightPlan& plan, const PlanContext& context, std::string_view text) {
   PlanText file = ReadLines(text);
   PlanReading reading;

@@ -18,6 +18,10 @@ struct PlanReading {
 // The highest number of a row in a file.
 constexpr int lastRowInFile = 500;
 
+// True for a file with this program's section, which ReadPlan takes; any other
+// is ImportPlan's (formats/plan_import.h).
+bool IsOwnPlan(std::string_view text);
+
 // Replaces plan by what the file's text (code page) says; legs, totals and level
 // are computed with the current aircraft, courses are the file's. A file
 // without this program's section leaves plan as it is; an airport that the

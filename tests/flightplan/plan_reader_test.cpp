@@ -97,6 +97,14 @@ TEST(PlanReader, WhatWasWrittenComesBack) {
       stored.Text());
 }
 
+TEST(PlanReader, KnowsItsOwnFiles) {
+  EXPECT_TRUE(IsOwnPlan("[VLM]"));
+  EXPECT_TRUE(IsOwnPlan("[Flightplan]\ntitle=A [VLM] B\n[VLM]\n"));
+  EXPECT_TRUE(IsOwnPlan("x\r[VLM"));
+  EXPECT_FALSE(IsOwnPlan("[Flightplan]\ntitle=A [VLM] B\n"));
+  EXPECT_FALSE(IsOwnPlan("<gpx/>"));
+}
+
 TEST(PlanReader, HeaderKeysComeBack) {
   StoredPlan stored;
   NavDatabase& database = stored.world.database;

@@ -10,3 +10,11 @@
 // plan_file.h's three, as the table of formats wants them.
 std::string WriteOwnPlan(const PlanExport& plan);
 std::string WriteSimulatorPlan(const PlanExport& plan);
+
+// The formats of today's simulators and tools.
+std::string WriteFsxPlan(const PlanExport& plan);
+std::string WriteMsfsPlan(const PlanExport& plan);
+std::string WriteXPlane11Plan(const PlanExport& plan);
+std::string WriteFlightGearPlan(const PlanExport& plan);
+std::string WriteGarminPlan(const PlanExport& plan);
+std::string WriteGpxPlan(const PlanExport& plan);

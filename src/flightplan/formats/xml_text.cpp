@@ -17,3 +17,9 @@ pugi::xml_node AddText(pugi::xml_node parent, const char* name, std::string_view
   node.text().set(clean.c_str());
   return node;
 }
+
+void AddXmlDeclaration(pugi::xml_document& document) {
+  pugi::xml_node declaration = document.append_child(pugi::node_declaration);
+  declaration.append_attribute("version").set_value("1.0");
+  declaration.append_attribute("encoding").set_value("UTF-8");
+}
