@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "base/nearest_letters.h"
+
 namespace {
 
 // Unicode code points of 0x80 to 0x9F; source: the Windows-1252 mapping table
@@ -66,12 +68,12 @@ std::optional<char32_t> NextUtf8(std::string_view text, std::size_t& position) {
   return value;
 }
 
-char ToCodePage(char32_t c) {
-  if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
+void AppendCodePage(std::string& out, char32_t c) {
+  if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return out.push_back(static_cast<char>(c));
   for (std::size_t i = 0; i < upperControls.size(); ++i) {
-    if (upperControls[i] == c) return static_cast<char>(0x80 + i);
+    if (upperControls[i] == c) return out.push_back(static_cast<char>(0x80 + i));
   }
-  return '?';
+  out += NearestLetters(c);
 }
 
 }  // namespace
@@ -89,7 +91,7 @@ std::string Utf8ToCodePage(std::string_view text) {
   out.reserve(text.size());
   for (std::size_t position = 0; position < text.size();) {
     const auto c = NextUtf8(text, position);
-    out.push_back(c ? ToCodePage(*c) : '?');
+    AppendCodePage(out, c.value_or(U'\uFFFD'));
   }
   return out;
 }

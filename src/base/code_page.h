@@ -9,7 +9,8 @@
 // become the control characters U+0081 and so on, as on that system.
 std::string CodePageToUtf8(std::string_view text);
 
-// Characters outside the code page, and bytes that are no UTF-8, become "?".
+// Characters outside the code page become the nearest letters that it has
+// (nearest_letters.h), bytes that are no UTF-8 "?".
 std::string Utf8ToCodePage(std::string_view text);
 
 // True if the bytes are well-formed UTF-8 (RFC 3629: no overlong forms, no

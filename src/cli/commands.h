@@ -13,6 +13,14 @@ int RunFind(const CliOptions& options, const std::string& ident);
 int RunCourse(const CliOptions& options, const std::vector<double>& positions);
 int RunAircraft(const CliOptions& options);
 
+// Where a plan goes besides standard output.
+struct PlanFiles {
+  std::string saveAs;                // a .pln file; empty: not saved
+  std::vector<std::string> formats;  // names of plan_formats.h; "all": every one
+  std::string out = ".";             // the folder of their files
+  std::string name;                  // of theirs, without its ending; empty: as saved, else by the airports
+};
+
 enum class PlanMode { direct, navaid, lowAltitude, highAltitude, route };
 
 struct PlanRequest {
@@ -25,14 +33,14 @@ struct PlanRequest {
   std::string star;
   std::string alternate;        // airport code; empty: none
   std::optional<int> aircraft;  // number; nothing: the settings' aircraft
-  std::string saveAs;           // a .pln file; empty: not saved
+  PlanFiles files;
 };
 
 int RunPlan(const CliOptions& options, const PlanRequest& request);
 
 struct OpenRequest {
-  std::string file;    // a .pln file of ours
-  std::string saveAs;  // as in PlanRequest
+  std::string file;  // a .pln file of ours
+  PlanFiles files;
 };
 
 int RunOpen(const CliOptions& options, const OpenRequest& request);

@@ -59,6 +59,15 @@ PlanMode ModeOf(const CommandLine& line, const CLI::App& plan) {
   return plan.count("--route") > 0 ? PlanMode::route : PlanMode::direct;
 }
 
+void AddFileOptions(CLI::App& command, PlanFiles& files) {
+  command.add_option("--save", files.saveAs, "Save the plan as FILE.pln")->type_name("FILE");
+  command.add_option("--export", files.formats, "Write it for other programs; \"all\" for every format")
+      ->delimiter(',')
+      ->type_name("FORMAT[,FORMAT]");
+  command.add_option("--out", files.out, "Folder of the exported files, this one if not given")
+      ->type_name("DIR");
+}
+
 CLI::App* AddPlanCommand(CLI::App& app, CommandLine& line) {
   CLI::App* plan = app.add_subcommand("plan", "Build a plan between two airports");
   plan->add_option("DEP", line.plan.departure, "Departure airport")->required();
@@ -79,7 +88,7 @@ CLI::App* AddPlanCommand(CLI::App& app, CommandLine& line) {
   plan->add_option("--star", line.plan.star, "Name of an arrival")->type_name("NAME");
   plan->add_option("--alternate", line.plan.alternate, "Alternate airport")->type_name("ICAO");
   plan->add_option("--aircraft", line.aircraft, "Number of the aircraft");
-  plan->add_option("--save", line.plan.saveAs, "Save the plan as FILE.pln");
+  AddFileOptions(*plan, line.plan.files);
   return plan;
 }
 
@@ -111,7 +120,7 @@ void AddCommands(CLI::App& app, CommandLine& line) {
   app.add_subcommand("aircraft", "The aircraft file");
   CLI::App* open = app.add_subcommand("open", "A saved plan");
   open->add_option("FILE", line.open.file, "The plan file (.pln)")->required();
-  open->add_option("--save", line.open.saveAs, "Save the plan as FILE.pln");
+  AddFileOptions(*open, line.open.files);
 #ifdef VELMORA_HAS_DRAW
   AddDrawCommand(app, line.draw);
 #endif

@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "cli/commands.h"
 #include "cli/plan_output.h"
 #include "settings/settings_file.h"
@@ -13,7 +15,7 @@ int RunOpen(const CliOptions& options, const OpenRequest& request) {
   FlightPlan plan;
   if (!OpenPlan(request.file, plan, context)) return exitNotDone;
   PrintPlan(options, plan, context, settings.FUEL, messages);
-  if (request.saveAs.empty()) return exitDone;
-  if (plan.MissingWaypoints) return Fail("a plan with missing waypoints is not saved");
-  return SavePlanAs(request.saveAs, plan, world->database);
+  PlanFiles files = request.files;
+  if (files.saveAs.empty()) files.name = std::filesystem::path(request.file).stem().string();
+  return WritePlanFiles(files, options, plan, context, settings.FUEL);
 }

@@ -103,5 +103,5 @@ int RunPlan(const CliOptions& options, const PlanRequest& request) {
     std::cerr << line << '\n';
   PrintPlan(options, plan, context, settings.FUEL, messages);
   if (!generated) return Fail("the route could not be built");
-  return request.saveAs.empty() ? exitDone : SavePlanAs(request.saveAs, plan, world->database);
+  return WritePlanFiles(request.files, options, plan, context, settings.FUEL);
 }

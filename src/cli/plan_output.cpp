@@ -1,14 +1,19 @@
 #include "cli/plan_output.h"
 
 #include <algorithm>
+#include <chrono>
+#include <filesystem>
 #include <iostream>
+#include <set>
 
 #include "base/files.h"
 #include "base/numbers.h"
 #include "cli/plan_document.h"
 #include "flightplan/aircraft_file.h"
+#include "flightplan/formats/plan_formats.h"
 #include "flightplan/plan_file.h"
 #include "flightplan/plan_reader.h"
+#include "startup/start_checks.h"
 
 namespace {
 
@@ -24,6 +29,78 @@ void PrintForPeople(const FlightPlan& plan, const AircraftRec& aircraft) {
                 airway.c_str(), static_cast<double>(row.Dist), FormatPicture(row.Course, "000").c_str(),
                 FormatLat(row.Lat, 1).c_str(), FormatLon(row.Lon, 1).c_str());
   }
+}
+
+// The formats that are named, in the order in which they are written; nothing
+// after telling which one does not exist.
+std::optional<std::vector<const PlanFormatInfo*>> NamedFormats(const std::vector<std::string>& names) {
+  std::vector<const PlanFormatInfo*> formats;
+  std::string known;
+  for (const PlanFormatInfo& format : PlanFormats()) {
+    (known += known.empty() ? "" : ", ") += format.name;
+    const auto isNamed = [&](const std::string& name) {
+      return name == "all" || EqualNoCase(name, format.name);
+    };
+    if (std::any_of(names.begin(), names.end(), isNamed)) formats.push_back(&format);
+  }
+  for (const std::string& name : names) {
+    if (name == "all" || FindPlanFormat(name) != nullptr) continue;
+    Fail("there is no format " + name + "; the formats are " + known);
+    return std::nullopt;
+  }
+  return formats;
+}
+
+bool HasRunways(const PlanExport& plan) {
+  bool both = true;
+  for (const AirportRec* airport : {&DepartureOf(plan), &DestinationOf(plan)}) {
+    if (airport->lngRunways > 0) continue;
+    both = false;
+    Fail("No flight plan can be filed for airports without runways (" + Utf8(airport->strCode.View()) + ")");
+  }
+  return both;
+}
+
+std::string Stem(const PlanFiles& files, const PlanExport& plan) {
+  if (!files.name.empty()) return files.name;
+  if (!files.saveAs.empty()) return std::filesystem::path(files.saveAs).stem().string();
+  return Utf8(DepartureOf(plan).strCode.View()) + Utf8(DestinationOf(plan).strCode.View());
+}
+
+// Two formats with one ending get names of their own.
+std::filesystem::path FileFor(const PlanFormatInfo& format, const PlanFiles& files, const PlanExport& plan,
+                              std::set<std::string>& taken) {
+  const std::string stem = Stem(files, plan);
+  std::string name = stem + std::string(format.extension);
+  if (!taken.insert(name).second) {
+    name = stem + "." + std::string(format.name) + std::string(format.extension);
+    taken.insert(name);
+  }
+  return std::filesystem::path(files.out) / name;
+}
+
+int ExportPlan(const PlanFiles& files, const CliOptions& options, const FlightPlan& plan,
+               const PlanContext& context, int fuelUnit) {
+  const auto formats = NamedFormats(files.formats);
+  if (!formats) return exitWrongUsage;
+  Session session(options.home);
+  ReadAirac(session);
+  const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+  const PlanExport made = MakePlanExport(plan, context, fuelUnit, now, session.strAiracCycle);
+  int result = exitDone;
+  std::set<std::string> taken;
+  for (const PlanFormatInfo* format : *formats) {
+    const std::filesystem::path path = FileFor(*format, files, made, taken);
+    std::string reason;
+    if (format->needsRunways && !HasRunways(made)) {
+      result = exitNotDone;
+    } else if (!ReplaceFile(path, format->write(made), &reason)) {
+      result = Fail("not exported: " + reason);
+    } else {
+      std::cerr << path.string() << '\n';
+    }
+  }
+  return result;
 }
 
 }  // namespace
@@ -65,8 +142,13 @@ bool OpenPlan(const std::string& path, FlightPlan& plan, const PlanContext& cont
   return reading.valid;
 }
 
-int SavePlanAs(const std::string& path, const FlightPlan& plan, const NavDatabase& database) {
+int WritePlanFiles(const PlanFiles& files, const CliOptions& options, const FlightPlan& plan,
+                   const PlanContext& context, int fuelUnit) {
+  if (files.saveAs.empty() && files.formats.empty()) return exitDone;
+  if (plan.MissingWaypoints) return Fail("a plan with missing waypoints is not saved");
   std::string reason;
-  if (ReplaceFile(path, WritePlan(plan, database, PlanFormat::FS), &reason)) return exitDone;
-  return Fail("the plan was not saved: " + reason);
+  if (!files.saveAs.empty() &&
+      !ReplaceFile(files.saveAs, WritePlan(plan, context.database, PlanFormat::FS), &reason))
+    return Fail("the plan was not saved: " + reason);
+  return files.formats.empty() ? exitDone : ExportPlan(files, options, plan, context, fuelUnit);
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cli/cli_output.h"
+#include "cli/commands.h"
 #include "flightplan/aircraft.h"
 #include "flightplan/flight_plan.h"
 #include "flightplan/plan_context.h"
@@ -24,5 +25,7 @@ void PrintPlan(const CliOptions& options, const FlightPlan& plan, const PlanCont
 // telling that plan is not the file's.
 bool OpenPlan(const std::string& path, FlightPlan& plan, const PlanContext& context);
 
-// Writes the plan file; the exit code.
-int SavePlanAs(const std::string& path, const FlightPlan& plan, const NavDatabase& database);
+// Saves and exports the plan as asked. A format that cannot be written is told
+// and the others are written all the same; the exit code.
+int WritePlanFiles(const PlanFiles& files, const CliOptions& options, const FlightPlan& plan,
+                   const PlanContext& context, int fuelUnit);

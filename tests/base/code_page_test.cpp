@@ -14,9 +14,16 @@ TEST(CodePage, EveryByteSurvivesTheWayToUtf8AndBack) {
 TEST(CodePage, KnownCharacters) {
   EXPECT_EQ(CodePageToUtf8("K\xF6ln \x80 \xB7"), "Köln € ·");
   EXPECT_EQ(Utf8ToCodePage("São Tomé – Ünye"), "S\xE3o Tom\xE9 \x96 \xDCnye");
+}
+
+TEST(CodePage, WhatItLacksIsWrittenWithTheNearestLetters) {
   EXPECT_EQ(Utf8ToCodePage("Łódź"),
-            "?\xF3"
-            "d?");
+            "L\xF3"
+            "dz");
+  EXPECT_EQ(Utf8ToCodePage("İstanbul Değirmen Şişli, Brașov, Đà Nẵng"),
+            "Istanbul Degirmen Sisli, Brasov, D\xE0 Nang");
+  EXPECT_EQ(Utf8ToCodePage("Щёлково Ярославль"), "Shchyolkovo Yaroslavl");
+  EXPECT_EQ(Utf8ToCodePage("Mu\xCC\x88nchen 東"), "Munchen ?");
 }
 
 TEST(CodePage, DamagedUtf8IsRefusedAndNeverLosesItsNeighbours) {

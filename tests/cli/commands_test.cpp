@@ -107,21 +107,21 @@ TEST(Cli, APlanIsPrintedAndSavedOrToldWhyNot) {
   request.departure = "EDDF";
   request.destination = "eddm";
   request.aircraft = 1;
-  request.saveAs = (home.Path() / "direct.pln").string();
+  request.files.saveAs = (home.Path() / "direct.pln").string();
   const CommandRun direct = Capture([&] { return RunPlan(JsonFor(home), request); });
   ASSERT_EQ(direct.exitCode, exitDone) << direct.err;
   EXPECT_EQ(direct.Document()["aircraft"]["name"], "Slow");
   EXPECT_EQ(direct.Document()["legs"].size(), 2u);
   EXPECT_EQ(home.Folder().Read("direct.pln").rfind("[Flightplan]\r\n", 0), 0u);
 
-  request.saveAs = (home.Path() / "no/folder/x.pln").string();
+  request.files.saveAs = (home.Path() / "no/folder/x.pln").string();
   EXPECT_EQ(Capture([&] { return RunPlan(JsonFor(home), request); }).exitCode, exitNotDone);
 
   // The small world has no airways: the message is told and nothing is saved.
   request.destination = "EDDM";
   request.mode = PlanMode::highAltitude;
   request.aircraft.reset();
-  request.saveAs = (home.Path() / "high.pln").string();
+  request.files.saveAs = (home.Path() / "high.pln").string();
   const CommandRun high = Capture([&] { return RunPlan(JsonFor(home), request); });
   EXPECT_EQ(high.exitCode, exitNotDone);
   EXPECT_FALSE(high.Document()["messages"].empty());
@@ -138,9 +138,11 @@ TEST(Cli, ASavedPlanIsOpenedAndSavedAgain) {
   PlanRequest request;
   request.departure = "EDDF";
   request.destination = "EDDM";
-  request.saveAs = (home.Path() / "first.pln").string();
+  request.files.saveAs = (home.Path() / "first.pln").string();
   const CommandRun made = Capture([&] { return RunPlan(JsonFor(home), request); });
-  const OpenRequest open{request.saveAs, (home.Path() / "second.pln").string()};
+  OpenRequest open;
+  open.file = request.files.saveAs;
+  open.files.saveAs = (home.Path() / "second.pln").string();
   const CommandRun opened = Capture([&] { return RunOpen(JsonFor(home), open); });
   ASSERT_EQ(opened.exitCode, exitDone) << opened.err;
   EXPECT_EQ(opened.Document(), made.Document());
@@ -148,11 +150,38 @@ TEST(Cli, ASavedPlanIsOpenedAndSavedAgain) {
 
   home.Folder().Write("theirs.pln", "[Flightplan]\r\ntype=IFR\r\n");
   for (const char* refused : {"theirs.pln", "missing.pln"}) {
-    const CommandRun run = Capture([&] {
-      return RunOpen(JsonFor(home), {(home.Path() / refused).string(), {}});
-    });
+    open = OpenRequest{};
+    open.file = (home.Path() / refused).string();
+    const CommandRun run = Capture([&] { return RunOpen(JsonFor(home), open); });
     EXPECT_EQ(run.exitCode, exitNotDone);
     EXPECT_TRUE(run.out.empty());
     EXPECT_NE(run.err.find(refused), std::string::npos);
   }
+}
+
+TEST(Cli, APlanIsExportedFormatByFormat) {
+  const SmallHome home;
+  PlanRequest request;
+  request.departure = "EDDF";
+  request.destination = "EDDM";
+  const auto plan = [&](std::vector<std::string> formats, const std::string& folder) {
+    request.files.formats = std::move(formats);
+    request.files.out = (home.Path() / folder).string();
+    return Capture([&] { return RunPlan(JsonFor(home), request); });
+  };
+  EXPECT_EQ(plan({"radarcontact", "Velmora"}, ".").exitCode, exitDone);
+  // In the order of writing; the second of one ending says what it is.
+  EXPECT_NE(home.Folder().Read("EDDFEDDM.pln").find("[VLM]"), std::string::npos);
+  EXPECT_EQ(home.Folder().Read("EDDFEDDM.radarcontact.pln").find("[VLM]"), std::string::npos);
+  EXPECT_FALSE(home.Folder().Read("EDDFEDDM.radarcontact.pln").empty());
+
+  const CommandRun unknown = plan({"velmora", "nosuch"}, ".");
+  EXPECT_EQ(unknown.exitCode, exitWrongUsage);
+  EXPECT_NE(unknown.err.find("there is no format nosuch"), std::string::npos);
+  EXPECT_NE(unknown.err.find("radarcontact"), std::string::npos);
+
+  const CommandRun nowhere = plan({"velmora", "radarcontact"}, "no/folder");
+  EXPECT_EQ(nowhere.exitCode, exitNotDone);
+  for (const char* file : {"EDDFEDDM.pln", "EDDFEDDM.radarcontact.pln"})
+    EXPECT_NE(nowhere.err.find(file), std::string::npos) << "each is tried";
 }

@@ -73,7 +73,7 @@ class CasePlan {
   CasePlan(const CasePlan&) = delete;
   CasePlan& operator=(const CasePlan&) = delete;
 
-  PlanExport Export() { return MakePlanExport(plan, context, 2, casesClock, "2601"); }
+  PlanExport Export() { return MakePlanExport(plan, context, 2, casesClock, "2026.01"); }
 
   DrawnWorld world;
   AircraftRec aircraft = CasesAircraft();

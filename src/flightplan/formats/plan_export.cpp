@@ -1,7 +1,7 @@
 #include "flightplan/formats/plan_export.h"
 
+#include <algorithm>
 #include <stdexcept>
-#include <utility>
 
 namespace {
 
@@ -16,12 +16,26 @@ const AirportRec& NeededAirport(const PlanExport& plan, std::int32_t row) {
   return *airport;
 }
 
+// The first number of the text: "2026.01" is cycle "2601".
+std::string CycleNumber(std::string_view cycle) {
+  std::string digits;
+  const std::size_t start = std::min(cycle.find_first_of("0123456789"), cycle.size());
+  for (const char c : cycle.substr(start)) {
+    if (c >= '0' && c <= '9') {
+      digits += c;
+    } else if (c != '.') {
+      break;
+    }
+  }
+  return digits.size() < 4 ? std::string() : digits.substr(digits.size() - 4);
+}
+
 }  // namespace
 
 PlanExport MakePlanExport(const FlightPlan& plan, const PlanContext& context, int fuelUnit,
-                          std::chrono::sys_seconds now, std::string airacCycle) {
-  PlanExport made{plan, context.database,     context.aircraft, context.FAFDIST, fuelUnit, {}, true,
-                  now,  std::move(airacCycle)};
+                          std::chrono::sys_seconds now, std::string_view airacCycle) {
+  PlanExport made{plan, context.database,       context.aircraft, context.FAFDIST, fuelUnit, {}, true,
+                  now,  CycleNumber(airacCycle)};
   DepartureOf(made);
   DestinationOf(made);
   try {

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "flightplan/aircraft.h"
 #include "flightplan/flight_plan.h"
@@ -23,12 +24,13 @@ struct PlanExport {
   std::optional<FuelFigures> fuel;  // none if the aircraft's data give none
   bool withProcedures = true;       // the rows of SID and STAR too
   std::chrono::sys_seconds now{};   // UTC
-  std::string airacCycle;           // "2013.10"; empty: unknown
+  std::string airacCycle;           // year and number, "2601"; empty: unknown
 };
 
+// airacCycle as the start-up tells it: "2026.01", or words without a number.
 // Throws std::logic_error for a plan without its airports.
 PlanExport MakePlanExport(const FlightPlan& plan, const PlanContext& context, int fuelUnit,
-                          std::chrono::sys_seconds now, std::string airacCycle);
+                          std::chrono::sys_seconds now, std::string_view airacCycle);
 
 // The plan's airports. The alternate is null without one.
 const AirportRec& DepartureOf(const PlanExport& plan);
