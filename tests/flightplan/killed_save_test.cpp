@@ -32,7 +32,7 @@ TEST(KilledSave, LeavesTheOldPlanOrTheNewOne) {
   const std::string old = PlanText(PlanCase::airwaysAndProcedures);
   // Many times as long, so that the writing itself takes its time.
   std::string other = PlanText(PlanCase::dateLine);
-  while (other.size() < 2000000)
+  while (other.size() < 300000)
     other += "WP=1,Fix,MANDA,MANDA,-12.2500,179.5000,0.00,10.9205,0.000,1,0\r\n";
   std::mt19937 random(20260102);
   std::uniform_int_distribution<int> microseconds(0, 6000);
