@@ -15,7 +15,7 @@ std::string LastCharacters(std::string_view text, std::size_t count) {
 std::string TrackName(const PlanWaypoint& row) {
   const std::string_view airway = row.Airway.View();
   if (airway.starts_with("Track ")) return "NAT" + LastCharacters(airway, 1);
-  if (airway.starts_with("PTrack ")) return "PAC" + LastCharacters(airway, 2);
+  if (airway.starts_with("PTrack ")) return "PAC" + std::string(Trimmed(LastCharacters(airway, 2)));
   return {};
 }
 

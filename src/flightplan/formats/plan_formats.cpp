@@ -4,6 +4,7 @@
 
 #include "base/fixed_text.h"
 #include "flightplan/formats/plan_writers.h"
+#include "flightplan/formats/xml_style_sheet.h"
 #include "flightplan/plan_file.h"
 
 std::string WriteOwnPlan(const PlanExport& plan) {
@@ -101,7 +102,13 @@ constexpr std::array formats = {
                    .write = WriteSimulatorPlan,
                    .folderSetting = &Settings::PROMAGPATH,
                    .ownFolder = "\\FSplan\\PM"},
-    PlanFormatInfo{.name = "xml", .caption = "XML", .box = 10, .extension = ".xml", .write = WriteXmlPlan},
+    PlanFormatInfo{.name = "xml",
+                   .caption = "XML",
+                   .box = 10,
+                   .extension = ".xml",
+                   .write = WriteXmlPlan,
+                   .companionName = xmlStyleSheetName,
+                   .companionText = XmlStyleSheet},
     PlanFormatInfo{.name = "fsx",
                    .caption = "FSX, Prepar3D",
                    .box = 12,

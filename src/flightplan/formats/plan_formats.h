@@ -28,6 +28,10 @@ struct PlanFormatInfo {
   bool namedByAirports = false;            // "EDDFKJFK.fms", whatever name was typed
   std::string_view askProcedures = {};     // the question for SID and STAR; empty: they are taken
   std::string_view simulatorUnknown = {};  // the message without the simulator's folder
+
+  // A file that the plan's needs beside it; put there when it is missing. None: empty.
+  std::string_view companionName = {};
+  std::string_view (*companionText)() = nullptr;
 };
 
 std::span<const PlanFormatInfo> PlanFormats();

@@ -12,6 +12,7 @@
 #include "base/numbers.h"
 #include "flightplan/formats/export_rows.h"
 #include "flightplan/formats/plan_writers.h"
+#include "flightplan/formats/xml_style_sheet.h"
 #include "flightplan/formats/xml_text.h"
 #include "navdata/geodesy.h"
 
@@ -194,7 +195,7 @@ void AddHead(pugi::xml_document& document) {
   declaration.append_attribute("encoding") = "UTF-8";
   pugi::xml_node sheet = document.append_child(pugi::node_pi);
   sheet.set_name("xml-stylesheet");
-  sheet.set_value("type=\"text/xsl\" href=\"vlm.xsl\"");
+  sheet.set_value(("type=\"text/xsl\" href=\"" + std::string(xmlStyleSheetName) + "\"").c_str());
 }
 
 }  // namespace
