@@ -20,6 +20,7 @@
           th { text-align: left; font-size: .75em; letter-spacing: .05em; text-transform: uppercase; color: #5a6875; }
           th, td { padding: .28em .6em .28em 0; border-bottom: 1px solid #e4e9ed; }
           .number { text-align: right; }
+          .number + :not(.number) { padding-left: 1.2em; }
           .code { font-weight: 600; white-space: nowrap; }
           section { break-inside: avoid; }
           @media print { body { background: #fff; font-size: 10pt; } main { margin: 0; padding: 0; max-width: none; } }
@@ -123,10 +124,12 @@
         <xsl:value-of select="*[name() = concat($which, 'id')]"/>&#160;
         <xsl:value-of select="*[name() = concat($which, 'name')]"/>
       </h2>
-      <p>
-        <xsl:value-of select="*[name() = concat($which, 'city')]"/>&#160;
-        <xsl:value-of select="*[name() = concat($which, 'country')]"/>
-      </p>
+      <xsl:if test="*[name() = concat($which, 'city') or name() = concat($which, 'country')] != ''">
+        <p>
+          <xsl:value-of select="*[name() = concat($which, 'city')]"/>&#160;
+          <xsl:value-of select="*[name() = concat($which, 'country')]"/>
+        </p>
+      </xsl:if>
       <dl>
         <xsl:call-template name="figure"><xsl:with-param name="name">Start</xsl:with-param><xsl:with-param name="value" select="departureposition"/></xsl:call-template>
         <xsl:call-template name="figure"><xsl:with-param name="name">Latitude</xsl:with-param><xsl:with-param name="value" select="*[name() = concat($which, 'lat')]"/></xsl:call-template>

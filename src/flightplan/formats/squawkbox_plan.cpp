@@ -1,7 +1,5 @@
 // The flight plan form of the network clients (.sfp): what the pilot files.
 // SquawkBox and FSInn take the same file, each from its own folder.
-#include <cmath>
-
 #include "base/numbers.h"
 #include "flightplan/formats/network_route.h"
 #include "flightplan/formats/plain_text.h"
@@ -16,7 +14,8 @@ std::int32_t FuelMinutes(const PlanExport& plan) {
 }
 
 void AddTime(std::string& text, const std::string& name, std::int32_t minutes) {
-  AddLine(text, name + "Hours=" + FormatPicture(minutes / 60, "00"));
+  const std::int32_t hours = minutes / 60;
+  AddLine(text, name + "Hours=" + FormatPicture(hours, "00"));
   AddLine(text, name + "Minutes=" + FormatPicture(minutes % 60, "00"));
 }
 

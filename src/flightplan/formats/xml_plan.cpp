@@ -25,7 +25,8 @@ constexpr std::string_view megahertzPicture = "000.000";
 // "39:49": hours do not wrap at the day.
 std::string HoursAndMinutes(double minutes) {
   const std::int32_t whole = std::max(0, CutToInt(minutes));
-  return FormatPicture(whole / 60, "00") + ":" + FormatPicture(whole % 60, "00");
+  const std::int32_t hours = whole / 60;
+  return FormatPicture(hours, "00") + ":" + FormatPicture(whole % 60, "00");
 }
 
 // Adds elements to one parent, all with the same beginning of their names.
