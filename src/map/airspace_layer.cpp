@@ -16,8 +16,7 @@ constexpr float activeWidth = 2;
 constexpr std::int16_t labelRange = 50;
 constexpr float labelGap = 35;  // units below the northernmost point
 constexpr float labelPoints = 7.5F;
-constexpr std::int32_t white = 0xFFFFFF;
-constexpr double labelWhite = 0.45;  // texts are thinner than areas and need more light
+constexpr double labelContrast = 0.45;  // texts are thinner than areas and need more light
 
 // Of outlines; the farther the view, the smaller the zones and the denser.
 constexpr std::array<RangeStep, 5> outlineOpacity = {
@@ -91,7 +90,7 @@ void PrintLabel(const MapPaint& paint, const Shown& one, const std::vector<Surfa
   const std::vector<std::string> lines = LabelLines(paint, *one.airspace);
   if (width < 1.5F * surface.TextWidth(lines[0])) return;
   if (middle < 0 || middle > surface.ScaleWidth() || top->y < 0 || top->y > surface.ScaleHeight()) return;
-  surface.ForeColor = Mixed(one.color, white, labelWhite);
+  surface.ForeColor = Mixed(one.color, ContrastTo(paint.colors.MAP), labelContrast);
   surface.CurrentY = top->y + labelGap;
   for (const std::string& line : lines) {
     surface.CurrentX = middle - surface.TextWidth(line) / 2;

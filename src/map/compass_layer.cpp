@@ -13,8 +13,7 @@ constexpr double textRadius = radius - 330;
 constexpr int tickStep = 5;  // degrees
 constexpr int numberStep = 30;
 constexpr float ringWidth = 1.8F;
-constexpr std::int32_t white = 0xFFFFFF;
-constexpr double textWhite = 0.35;  // texts are thinner than the ring and need more light
+constexpr double textContrast = 0.35;  // texts are thinner than the ring and need more light
 constexpr float numberPoints = 9;
 constexpr float cardinalPoints = 13;
 
@@ -50,7 +49,7 @@ void DrawCompass(const MapPaint& paint) {
   surface.DrawWidth = ringWidth;
   surface.Circle(x, y, static_cast<float>(radius), color);
   surface.Lines(ticks, color);
-  surface.ForeColor = Mixed(color, white, textWhite);
+  surface.ForeColor = Mixed(color, ContrastTo(paint.colors.MAP), textContrast);
   for (int mark = 0; mark < 360; mark += numberStep) {
     const std::string text = MarkText(mark);
     const bool cardinal = mark % 90 == 0;

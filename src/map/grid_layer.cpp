@@ -16,8 +16,7 @@ constexpr double leastSpacing = 1000;  // units between two lines: at most seven
 constexpr float lineOpacity = 0.55F;
 constexpr float edgeGap = 40;  // units between a text and the edge, and a text and its line
 constexpr float textPoints = 8;
-constexpr std::int32_t white = 0xFFFFFF;
-constexpr double textWhite = 0.3;  // texts are thinner than lines look and need more light
+constexpr double textContrast = 0.3;  // texts are thinner than lines look and need more light
 
 constexpr std::array<std::int32_t, 17> steps = {
     1,
@@ -136,7 +135,7 @@ void DrawGrid(const MapPaint& paint) {
   surface.Opacity = lineOpacity;
   surface.Lines(lines, paint.colors.LATLONG);
   surface.Opacity = 1;
-  surface.ForeColor = Mixed(paint.colors.LATLONG, white, textWhite);
+  surface.ForeColor = Mixed(paint.colors.LATLONG, ContrastTo(paint.colors.MAP), textContrast);
   surface.FontSize = textPoints;
   surface.TextHalo = true;
   PrintLabels(surface, lats, lons, page.left);

@@ -13,3 +13,10 @@ constexpr std::int32_t Mixed(std::int32_t base, std::int32_t top, double part) {
   }
   return mixed;
 }
+
+// White for a dark colour, black for a light one.
+constexpr std::int32_t ContrastTo(std::int32_t color) {
+  const double brightness =
+      0.299 * (color & 0xFF) + 0.587 * (color >> 8 & 0xFF) + 0.114 * (color >> 16 & 0xFF);
+  return brightness < 128 ? 0xFFFFFF : 0;
+}

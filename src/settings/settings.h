@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // Colours are 24-bit values with red in the low byte.
@@ -21,6 +22,58 @@ struct ColorSettings {
              IVAOFIR = 6553700, IVAOFSS = 65280, IVAOTWR = 255, IVAOGND = 65535, IVAOAPP = 16744576,
              STATICACCOLOR = 16777088, FIRACTIVCOLOR = 65280, FIRINACTIVCOLOR = 255;
 };
+
+// From 0xRRGGBB, as colours are usually written.
+constexpr ColorValue ColorOf(std::int32_t rgb) {
+  return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16;
+}
+
+// The colours as the program brings them: a dark map for the night, a light one for the day.
+inline constexpr ColorSettings nightColors{};
+inline constexpr ColorSettings dayColors{.MAP = ColorOf(0xD3E6F2),
+                                         .COAST = ColorOf(0x6E8296),
+                                         .LATLONG = ColorOf(0x8FA3B5),
+                                         .COMP = ColorOf(0x2F5D9E),
+                                         .WIND = ColorOf(0xC81E1E),
+                                         .HILITE = ColorOf(0xE00000),
+                                         .MEASURE = ColorOf(0x0B7A8C),
+                                         .ZOOM = ColorOf(0xD00000),
+                                         .MSA = ColorOf(0x6B6B6B),
+                                         .VICTOR = ColorOf(0x2E62C8),
+                                         .CTRZ = ColorOf(0x7A4E9C),
+                                         .JET = ColorOf(0x00708A),
+                                         .AIR1 = ColorOf(0x2E7D32),
+                                         .AIR2 = ColorOf(0xB0306A),
+                                         .VOR = ColorOf(0xB35A00),
+                                         .NDB = ColorOf(0x0A7A3A),
+                                         .ILS = ColorOf(0x7A6A00),
+                                         .INT = ColorOf(0x005F94),
+                                         .FIX = ColorOf(0xB83A00),
+                                         .USER = ColorOf(0x5A5A5A),
+                                         .MOVAC = ColorOf(0x0047AB),
+                                         .ACINCTRZ = ColorOf(0xC00000),
+                                         .ACATCTRZ = ColorOf(0x007C91),
+                                         .ROUTE = ColorOf(0xC2002E),
+                                         .AI = ColorOf(0xB71C1C),
+                                         .AIFREQ = ColorOf(0x00802B),
+                                         .TCAS1 = ColorOf(0xD06A00),
+                                         .TCAS2 = ColorOf(0xD00000),
+                                         .AP = ColorOf(0x37474F),
+                                         .RWY = ColorOf(0x4A4F55),
+                                         .TAXI = ColorOf(0x8A8F94),
+                                         .TAXINAME = ColorOf(0x2A2F36),
+                                         .RWYID = ColorOf(0xF5F5F5),
+                                         .PARKING = ColorOf(0x2E8B57),
+                                         .LAND = ColorOf(0xF3F1E6),
+                                         .RIVER = ColorOf(0x6FA8D0),
+                                         .IVAOFIR = ColorOf(0x640064),
+                                         .IVAOFSS = ColorOf(0x00802B),
+                                         .IVAOTWR = ColorOf(0xC00000),
+                                         .IVAOGND = ColorOf(0xA08A00),
+                                         .IVAOAPP = ColorOf(0x3F51B5),
+                                         .STATICACCOLOR = ColorOf(0x00838F),
+                                         .FIRACTIVCOLOR = ColorOf(0x00802B),
+                                         .FIRINACTIVCOLOR = ColorOf(0xB00020)};
 
 // Texts are UTF-8 in memory, the code page in the file. Flags are 0 and -1.
 struct Settings {
@@ -53,7 +106,9 @@ struct Settings {
   std::string FSXPLANPATH, MSFSPATH, XPLANE11PATH, FLIGHTGEARPATH, GARMINPATH, GPXPATH;
   std::string RECENT1, RECENT2, RECENT3, RECENT4, RECENT5;  // plan files last used, the latest first
   // Color
-  ColorSettings colors;
+  ColorSettings colors;                   // the set in use
+  ColorSettings otherColors = dayColors;  // the set that is not in use
+  std::int16_t NIGHT = -1;                // which of the two is in use: 0 day, -1 night
   // Map
   std::int32_t REGION = 0;
   std::int32_t COUNTRY = 75;
@@ -99,3 +154,10 @@ struct Settings {
   std::int32_t LATLONGMENU = 0;
   std::int32_t ONTOP = 0;
 };
+
+// Puts the day's or the night's colours in use; the others are kept beside.
+inline void UseColorSet(Settings& settings, bool night) {
+  if (night == (settings.NIGHT != 0)) return;
+  settings.NIGHT = night ? -1 : 0;
+  std::swap(settings.colors, settings.otherColors);
+}

@@ -10,6 +10,7 @@
 #include "base/fixed_text.h"
 #include "base/numbers.h"
 #include "settings/ini_file.h"
+#include "settings/option_list.h"
 
 namespace {
 
@@ -78,51 +79,51 @@ void VisitFlightplan(SettingsType& s, Visitor&& key) {
 }
 
 template <class ColorsType, class Visitor>
-void VisitColors(ColorsType& c, Visitor&& key) {
-  key("COLOR", "MAP", c.MAP);
-  key("COLOR", "COAST", c.COAST);
-  key("COLOR", "LATLONG", c.LATLONG);
-  key("COLOR", "COMP", c.COMP);
-  key("COLOR", "WIND", c.WIND);
-  key("COLOR", "HILITE", c.HILITE);
-  key("COLOR", "MEASURE", c.MEASURE);
-  key("COLOR", "ZOOM", c.ZOOM);
-  key("COLOR", "MSA", c.MSA);
-  key("COLOR", "VICTOR", c.VICTOR);
-  key("COLOR", "CTRZ", c.CTRZ);
-  key("COLOR", "JET", c.JET);
-  key("COLOR", "AIR1", c.AIR1);
-  key("COLOR", "AIR2", c.AIR2);
-  key("COLOR", "VOR", c.VOR);
-  key("COLOR", "NDB", c.NDB);
-  key("COLOR", "ILS", c.ILS);
-  key("COLOR", "INT", c.INT);
-  key("COLOR", "FIX", c.FIX);
-  key("COLOR", "USER", c.USER);
-  key("COLOR", "MOVAC", c.MOVAC);
-  key("COLOR", "ACINCTRZ", c.ACINCTRZ);
-  key("COLOR", "ACATCTRZ", c.ACATCTRZ);
-  key("COLOR", "ROUTE", c.ROUTE);
-  key("COLOR", "AI", c.AI);
-  key("COLOR", "AIFREQ", c.AIFREQ);
-  key("COLOR", "TCAS1", c.TCAS1);
-  key("COLOR", "TCAS2", c.TCAS2);
-  key("COLOR", "AP", c.AP);
-  key("COLOR", "RWY", c.RWY);
-  key("COLOR", "TAXI", c.TAXI);
-  key("COLOR", "TAXINAME", c.TAXINAME);
-  key("COLOR", "RWYID", c.RWYID);
-  key("COLOR", "PARKING", c.PARKING);
-  key("COLOR", "LAND", c.LAND);
-  key("COLOR", "RIVER", c.RIVER);
-  key("COLOR", "IVAOFIR", c.IVAOFIR);
-  key("COLOR", "IVAOFSS", c.IVAOFSS);
-  key("COLOR", "IVAOTWR", c.IVAOTWR);
-  key("COLOR", "IVAOGND", c.IVAOGND);
-  key("COLOR", "IVAOAPP", c.IVAOAPP);
-  key("COLOR", "STATICACCOLOR", c.STATICACCOLOR);
-  key("COLOR", "FIRACTIVCOLOR", c.FIRACTIVCOLOR);
-  key("COLOR", "FIRINACTIVCOLOR", c.FIRINACTIVCOLOR);
+void VisitColors(std::string_view section, ColorsType& c, Visitor&& key) {
+  key(section, "MAP", c.MAP);
+  key(section, "COAST", c.COAST);
+  key(section, "LATLONG", c.LATLONG);
+  key(section, "COMP", c.COMP);
+  key(section, "WIND", c.WIND);
+  key(section, "HILITE", c.HILITE);
+  key(section, "MEASURE", c.MEASURE);
+  key(section, "ZOOM", c.ZOOM);
+  key(section, "MSA", c.MSA);
+  key(section, "VICTOR", c.VICTOR);
+  key(section, "CTRZ", c.CTRZ);
+  key(section, "JET", c.JET);
+  key(section, "AIR1", c.AIR1);
+  key(section, "AIR2", c.AIR2);
+  key(section, "VOR", c.VOR);
+  key(section, "NDB", c.NDB);
+  key(section, "ILS", c.ILS);
+  key(section, "INT", c.INT);
+  key(section, "FIX", c.FIX);
+  key(section, "USER", c.USER);
+  key(section, "MOVAC", c.MOVAC);
+  key(section, "ACINCTRZ", c.ACINCTRZ);
+  key(section, "ACATCTRZ", c.ACATCTRZ);
+  key(section, "ROUTE", c.ROUTE);
+  key(section, "AI", c.AI);
+  key(section, "AIFREQ", c.AIFREQ);
+  key(section, "TCAS1", c.TCAS1);
+  key(section, "TCAS2", c.TCAS2);
+  key(section, "AP", c.AP);
+  key(section, "RWY", c.RWY);
+  key(section, "TAXI", c.TAXI);
+  key(section, "TAXINAME", c.TAXINAME);
+  key(section, "RWYID", c.RWYID);
+  key(section, "PARKING", c.PARKING);
+  key(section, "LAND", c.LAND);
+  key(section, "RIVER", c.RIVER);
+  key(section, "IVAOFIR", c.IVAOFIR);
+  key(section, "IVAOFSS", c.IVAOFSS);
+  key(section, "IVAOTWR", c.IVAOTWR);
+  key(section, "IVAOGND", c.IVAOGND);
+  key(section, "IVAOAPP", c.IVAOAPP);
+  key(section, "STATICACCOLOR", c.STATICACCOLOR);
+  key(section, "FIRACTIVCOLOR", c.FIRACTIVCOLOR);
+  key(section, "FIRINACTIVCOLOR", c.FIRINACTIVCOLOR);
 }
 
 template <class SettingsType, class Visitor>
@@ -164,8 +165,11 @@ template <class SettingsType, class Visitor>
 void VisitSettings(SettingsType& settings, Visitor&& key) {
   VisitUser(settings, key);
   VisitFlightplan(settings, key);
-  VisitColors(settings.colors, key);
+  VisitColors("COLOR", settings.colors, key);
+  key("COLOR", "NIGHT", settings.NIGHT);
   VisitRest(settings, key);
+  // The set that is not in use.
+  VisitColors(settings.NIGHT != 0 ? "COLORDAY" : "COLORNIGHT", settings.otherColors, key);
 }
 
 // Fills a setting from its text; false (and the value as it was) if a number does not fit.
@@ -230,9 +234,12 @@ std::string ReadText(const AppFolder& home, std::string_view name) {
 ReadIniResult ReadSettings(std::string_view text) {
   const IniFile file = IniFile::Parse(text);
   ReadIniResult result;
+  // Which colours are the defaults depends on the set in use.
+  if (Val(file.Read("COLOR", "NIGHT", "-1")) == 0) UseColorSet(result.settings, false);
   VisitSettings(result.settings, [&](std::string_view section, std::string_view key, auto& value) {
     if (!FromText(file.Read(section, key, ToText(value)), value)) result.successful = false;
   });
+  if (!BringIntoRange(result.settings)) result.successful = false;
   return result;
 }
 
@@ -256,7 +263,8 @@ std::string SettingsText(const Settings& settings, std::string_view present) {
   return file.Text();
 }
 
-bool WriteIni(const AppFolder& home, const Settings& settings, std::string* reason) {
+bool WriteIni(const AppFolder& home, const Settings& settings, std::string* reason,
+              const SimulatorPaths* simulators) {
   const std::string present = ReadText(home, settingsName);
   if (!ReplaceKeepingOld(home, settingsName, "\\vlmini.old", present, SettingsText(settings, present),
                          reason)) {
@@ -264,8 +272,11 @@ bool WriteIni(const AppFolder& home, const Settings& settings, std::string* reas
   }
   const std::string presentManager = ReadText(home, managerName);
   IniFile manager = IniFile::Parse(presentManager);
-  for (const std::string_view key : {"FSPATH09", "FSPATH10"})
-    manager.Write("FS", key, manager.Read("FS", key, ""));
+  const auto path = [&](std::string_view key, const std::string* chosen) {
+    manager.Write("FS", key, chosen != nullptr ? Utf8ToCodePage(*chosen) : manager.Read("FS", key, ""));
+  };
+  path("FSPATH09", simulators != nullptr ? &simulators->fsPath09 : nullptr);
+  path("FSPATH10", simulators != nullptr ? &simulators->fsPath10 : nullptr);
   manager.Write("FS", "FSLAST", settings.FSX == 0 ? "09" : "10");
   return ReplaceKeepingOld(home, managerName, "\\VLMDbManagerini.old", presentManager, manager.Text(),
                            reason);

@@ -218,6 +218,11 @@ void frmFuel::TakeUnit(int unit) {
   Q_EMIT UnitChanged();
 }
 
+void frmFuel::ShowUnit() {
+  if (QAbstractButton* option = optFueltype->button(session.settings.FUEL)) option->setChecked(true);
+  if (hasFigures) ShowFigures();
+}
+
 std::vector<std::string> frmFuel::Lines() const {
   std::vector<std::string> lines = {lblCaption->text().toStdString(), session.aircraft.Name, ""};
   const auto add = [&](const QString& head, const QLabel* label) {

@@ -26,6 +26,9 @@ class frmFuel : public QDialog {
   // Both outlive the window.
   frmFuel(Session& session, PlanEditor& editor, QWidget* parent = nullptr);
 
+  // Takes over the unit of the settings.
+  void ShowUnit();
+
   // Puts lines on paper: a printer that the pilot chooses, unless replaced. False if it failed.
   std::function<bool(const std::vector<std::string>& lines)> print;
 

@@ -6,7 +6,7 @@
 // keys, frmMap_panels.cpp the status panels, frmMap_gestures.cpp what the
 // pointer does on the map, frmMap_plan_gestures.cpp what it does there to the
 // plan, frmMap_plan.cpp the plan, frmMap_plan_files.cpp its files, frmMap_profile.cpp its vertical picture,
-// frmMap_aircraft.cpp the aircraft and their fuel.
+// frmMap_aircraft.cpp the aircraft and their fuel, frmMap_options.cpp the options.
 #pragma once
 
 #include <QAction>
@@ -180,6 +180,8 @@ class frmMap : public QMainWindow {
   QString PlanFolder() const;
   void ShowAircraft();
   void ShowFuel();
+  void ShowOptions();
+  void OptionsChanged();
   void ShowAbout();
 
   // There is no link to a simulator yet.

@@ -169,6 +169,13 @@ void frmMap::BuildPanelsMenu(QMenu* view) {
   }));
   panels->addAction(AddCommand(
       "mnuCursorPanel", tr("&Pointer: coordinates, to, from"), [this] { StepPointerMode(); }, "F9"));
+  view->addAction(AddToggle(
+      "mnuNight", tr("Night colo&urs"), session.settings.NIGHT != 0,
+      [this](bool on) {
+        UseColorSet(session.settings, on);
+        OptionsChanged();
+      },
+      "Ctrl+Shift+E"));
   view->addAction(AddToggle("mnuMouseZoom", tr("&Wheel zooms, focus follows the pointer"),
                             session.settings.MZOOM == 1, [this](bool on) {
                               session.settings.MZOOM = on ? 1 : 0;
@@ -230,6 +237,9 @@ void frmMap::BuildToolsMenu() {
   tools->addAction(AddCommand(
       "mnuClearHighlight", tr("&Clear highlight"), [this] { Highlight(ClearedSelection()); },
       "Ctrl+Shift+Backspace"));
+  tools->addSeparator();
+  tools->addAction(AddCommand(
+      "mnuOptions", tr("&Options..."), [this] { ShowOptions(); }, "Ctrl+,"));
 }
 
 void frmMap::AddButton(QToolBar* bar, QAction* action, const QString& name, const QString& text,

@@ -33,6 +33,7 @@ int RunProgram(QApplication& application, const CommandLine& line) {
   const StartOutcome outcome = RunStartSequence(session, line.rest, intro, messages);
   if (outcome == StartOutcome::ended) return 1;
   QApplication::setQuitOnLastWindowClosed(true);
+  ApplyStyle(application, session.settings.NIGHT != 0);
   frmMap map(session, messages, pointer);
   messages.SetParent(&map);
   map.show();

@@ -59,6 +59,7 @@ bool QtDrawSurface::SetsStrokes() const {
 }
 
 void QtDrawSurface::Clear(std::int32_t color) {
+  SetPageColor(color);
   image.fill(ToQColor(color));
 }
 
@@ -134,7 +135,7 @@ void QtDrawSurface::Print(std::string_view text) {
       if (x > image.width()) return;
     }
   };
-  if (TextHalo) draw(&Glyph::halo, qRgb(0, 0, 0));
+  if (TextHalo) draw(&Glyph::halo, ToQRgb(HaloColor()));
   draw(&Glyph::ink, ToQRgb(ForeColor));
 }
 

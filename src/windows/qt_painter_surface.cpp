@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "map/mixed_color.h"
 #include "windows/pixel_strokes.h"
 #include "windows/style.h"
 
@@ -48,7 +49,12 @@ void QtPainterSurface::UsePen(std::int32_t color) {
   painter.setOpacity(Opacity);
 }
 
+void QtPainterSurface::SetPageColor(std::int32_t color) {
+  haloColor = ContrastTo(ContrastTo(color));
+}
+
 void QtPainterSurface::Clear(std::int32_t color) {
+  SetPageColor(color);
   painter.setOpacity(1);
   painter.fillRect(QRectF(0, 0, placement.PixelWidth(), placement.PixelHeight()), ToQColor(color));
 }
@@ -158,7 +164,7 @@ void QtPainterSurface::Print(std::string_view text) {
   // Whole pixels keep small letters sharp.
   const QPointF place(std::round(corner.x()), std::round(corner.y()));
   if (TextHalo) {
-    painter.setPen(Qt::black);
+    painter.setPen(ToQColor(haloColor));
     painter.setOpacity(haloOpacity * Opacity);
     const double step = density;
     for (const QPointF offset :

@@ -62,6 +62,9 @@ class QtPainterSurface : public DrawSurface {
  protected:
   double PenWidth() const { return DrawWidth * density; }
   int FontPixels() const;
+  // Of the texts that have one: it stands out from the letters as the page does.
+  std::int32_t HaloColor() const { return haloColor; }
+  void SetPageColor(std::int32_t color);
   QPointF Pixel(SurfacePoint p) const { return placement.ToPixel(p.x, p.y); }
 
   QPainter& painter;
@@ -72,6 +75,7 @@ class QtPainterSurface : public DrawSurface {
   void UsePen(std::int32_t color);
   void UseFont();
 
+  std::int32_t haloColor = 0;
   QFont font;
   int fontPixels = 0;
   bool fontBold = false;

@@ -1,6 +1,7 @@
 // How the program looks: its colours, its fonts and the style sheet, all in
-// one place. Dark and quiet, so that the map is the brightest thing on the
-// screen by day and does not blind by night.
+// one place. Quiet, so that the map is what catches the eye: dark by night,
+// where nothing may blind, light by day. Which of the two is on is in the
+// application's palette.
 #pragma once
 
 #include <QApplication>
@@ -23,5 +24,6 @@ QColor ProcedureColor();
 QColor AirportColor();
 QColor ProcedureTint();
 
-// Palette, font and style sheet for every window.
-void ApplyStyle(QApplication& application);
+// Palette, font and style sheet for every window, those that are open too.
+void ApplyStyle(QApplication& application, bool night = true);
+bool IsNightStyle();

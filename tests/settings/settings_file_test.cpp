@@ -63,6 +63,20 @@ TEST(SettingsFile, RoundTripKeepsEverySettingAndTheOlderFile) {
   EXPECT_EQ(folder.Read("vlmini.old"), first);
 }
 
+TEST(SettingsFile, TheSimulatorsFoldersStayUnlessTheyAreGiven) {
+  const TemporaryFolder folder;
+  const AppFolder home(folder.Path());
+  folder.Write("VLMDbManager.ini", "[FS]\r\nFSPATH09=/old\r\nFSPATH10=/x\r\n");
+  ASSERT_TRUE(WriteIni(home, Settings()));
+  EXPECT_EQ(ReadSimulatorPaths(home).fsPath09, "/old");
+  const std::string before = folder.Read("VLMDbManager.ini");
+  const SimulatorPaths paths{"/spiele/Flüge", ""};
+  ASSERT_TRUE(WriteIni(home, Settings(), nullptr, &paths));
+  EXPECT_EQ(ReadSimulatorPaths(home).fsPath09, paths.fsPath09);
+  EXPECT_EQ(ReadSimulatorPaths(home).fsPath10, "");
+  EXPECT_EQ(folder.Read("VLMDbManagerini.old"), before);
+}
+
 TEST(SettingsFile, AFolderInThePlaceOfTheFileIsTold) {
   const TemporaryFolder folder;
   std::filesystem::create_directory(folder.Path() / "vlm.ini");
