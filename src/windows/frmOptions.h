@@ -26,13 +26,12 @@ class frmOptions : public QDialog {
 
   OptionRow& Row(std::string_view key);
 
+  void accept() override;
+  void reject() override;
+
  Q_SIGNALS:
   // The session's settings are others now: a colour is tried, or options are applied.
   void Changed();
-
- protected:
-  void accept() override;
-  void reject() override;
 
  private:
   void BuildPages(QBoxLayout* layout);

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <algorithm>
+#include <cmath>
 
 #include "settings/folder_check.h"
 
@@ -204,7 +206,7 @@ void OptionRow::Step(int direction) {
   const double step = option.decimals == 0 ? 1 : 0.1;
   const double wanted = qBound(option.lowest, number + direction * step, option.highest);
   const double scale = option.decimals == 0 ? 1 : 100;
-  SetText(QString::number(qRound64(wanted * scale) / scale, 'g', 10).toStdString());
+  SetText(QString::number(std::round(wanted * scale) / scale, 'g', 10).toStdString());
 }
 
 void OptionRow::Take(const QString& value) {
