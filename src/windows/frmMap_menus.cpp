@@ -170,7 +170,7 @@ void frmMap::BuildPanelsMenu(QMenu* view) {
   panels->addAction(AddCommand(
       "mnuCursorPanel", tr("&Pointer: coordinates, to, from"), [this] { StepPointerMode(); }, "F9"));
   view->addAction(AddToggle(
-      "mnuNight", tr("Night colo&urs"), session.settings.NIGHT != 0,
+      "mnuNight", tr("Dar&k colours for the night"), session.settings.NIGHT != 0,
       [this](bool on) {
         UseColorSet(session.settings, on);
         OptionsChanged();
