@@ -118,8 +118,8 @@ void AddCommands(CLI::App& app, CommandLine& line) {
       ->expected(4)
       ->required();
   app.add_subcommand("aircraft", "The aircraft file");
-  CLI::App* open = app.add_subcommand("open", "A saved plan");
-  open->add_option("FILE", line.open.file, "The plan file (.pln)")->required();
+  CLI::App* open = app.add_subcommand("open", "A saved plan, ours or of another program");
+  open->add_option("FILE", line.open.file, "The plan file (.pln, .fms, .fgfp, .fpl, .gpx, .sfp)")->required();
   AddFileOptions(*open, line.open.files);
 #ifdef VELMORA_HAS_DRAW
   AddDrawCommand(app, line.draw);

@@ -11,6 +11,7 @@
 #include "cli/plan_document.h"
 #include "flightplan/aircraft_file.h"
 #include "flightplan/formats/plan_formats.h"
+#include "flightplan/formats/plan_import.h"
 #include "flightplan/plan_file.h"
 #include "flightplan/plan_reader.h"
 #include "startup/start_checks.h"
@@ -29,6 +30,16 @@ void PrintForPeople(const FlightPlan& plan, const AircraftRec& aircraft) {
                 airway.c_str(), static_cast<double>(row.Dist), FormatPicture(row.Course, "000").c_str(),
                 FormatLat(row.Lat, 1).c_str(), FormatLon(row.Lon, 1).c_str());
   }
+}
+
+// What was not taken as the file has it is told like a message of the window.
+bool TakeForeignPlan(const std::string& path, std::string_view text, FlightPlan& plan,
+                     const PlanContext& context) {
+  const PlanImport import = ImportPlan(plan, context, text);
+  for (const std::string& problem : import.problems)
+    context.messages.Show(problem, MessageIcon::none);
+  if (!import.valid) Fail(path + " was not opened");
+  return import.valid;
 }
 
 // The formats that are named, in the order in which they are written; nothing
@@ -135,6 +146,7 @@ bool OpenPlan(const std::string& path, FlightPlan& plan, const PlanContext& cont
     Fail(reason);
     return false;
   }
+  if (!IsOwnPlan(file->Text())) return TakeForeignPlan(path, file->Text(), plan, context);
   const PlanReading reading = ReadPlan(plan, context, file->Text());
   for (const std::string& problem : reading.problems)
     std::cerr << path << ": " << problem << '\n';

@@ -21,7 +21,7 @@ std::optional<AircraftRec> ChooseAircraft(const CliOptions& options, const Setti
 void PrintPlan(const CliOptions& options, const FlightPlan& plan, const PlanContext& context, int fuelUnit,
                const CliMessages& messages);
 
-// Reads a saved plan; problems and messages go where they belong. False after
+// Reads a saved plan, ours or another program's; problems and messages go where they belong. False after
 // telling that plan is not the file's.
 bool OpenPlan(const std::string& path, FlightPlan& plan, const PlanContext& context);
 

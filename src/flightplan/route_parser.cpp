@@ -78,17 +78,6 @@ AirwayNetworkNumber NetworkOf(const NavDatabase& database, std::int32_t node, st
   return noNetwork;
 }
 
-// The row of the intersection table that a row of the plan stands for: its own,
-// or that of its code within a mile; -1 if none.
-std::int32_t NodeOf(const PlanWaypoint& row, const NavDatabase& database) {
-  if (row.Sym == "Int") return row.DbIndex;
-  for (const std::int32_t node : database.intersectionsByIdent.All(row.Code.View())) {
-    const IntersectionRec& at = database.intersections[static_cast<std::size_t>(node)];
-    if (GreatCircleDistance(row.Lat, row.Lon, at.sngLat, at.sngLon) < samePlaceDistance) return node;
-  }
-  return -1;
-}
-
 using AirwayWay = std::vector<const ConnectionRec*>;
 
 // The links from node to node along an airway that begins with first, up to
@@ -192,7 +181,7 @@ bool JoinRows(FlightPlan& plan, const PlanContext& context) {
     row.AirwayLink = noNetwork;
     const PlanWaypoint next = plan.Row(i + 1);
     carried = next.AirwayLink != noNetwork ? next.Airway.Text() : std::string();
-    const std::int32_t toNode = i + 1 < plan.DestinationRow() ? NodeOf(next, context.database) : -1;
+    const std::int32_t toNode = i + 1 < plan.DestinationRow() ? AirwayNodeOf(next, context.database) : -1;
     // Of an airway's two levels only one may lead there.
     const std::int32_t fromNode = row.DbIndex;
     const int other = network == victorNetwork ? jetNetwork : victorNetwork;
@@ -217,6 +206,15 @@ void DropMarks(FlightPlan& plan) {
 }
 
 }  // namespace
+
+std::int32_t AirwayNodeOf(const PlanWaypoint& row, const NavDatabase& database) {
+  if (row.Sym == "Int") return row.DbIndex;
+  for (const std::int32_t node : database.intersectionsByIdent.All(row.Code.View())) {
+    const IntersectionRec& at = database.intersections[static_cast<std::size_t>(node)];
+    if (GreatCircleDistance(row.Lat, row.Lon, at.sngLat, at.sngLon) < samePlaceDistance) return node;
+  }
+  return -1;
+}
 
 bool ExpandAirway(FlightPlan& plan, const PlanContext& context, std::int32_t fromNode, std::int32_t toNode,
                   std::string_view airway, int network, int row) {

@@ -17,6 +17,10 @@
 // its airway (the plan keeps what it has).
 bool ParseRoute(FlightPlan& plan, const PlanContext& context, std::string_view text);
 
+// The row of the intersection table that a row of the plan stands for on an
+// airway: its own, or that of its code within a mile; -1 if none.
+std::int32_t AirwayNodeOf(const PlanWaypoint& row, const NavDatabase& database);
+
 // Fills the way along an airway between row and the row behind it with the
 // airway's fixes and marks the legs with its name and limits. network: 1 victor,
 // 2 jet. fromNode, toNode: rows of the intersection table. False, with the plan

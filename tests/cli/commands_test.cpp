@@ -159,6 +159,25 @@ TEST(Cli, ASavedPlanIsOpenedAndSavedAgain) {
   }
 }
 
+TEST(Cli, APlanOfAnotherProgramIsOpened) {
+  const SmallHome home;
+  home.Folder().Write("theirs.fms",
+                      "I\n3 version\n0\n3\n1 EDDF 0 50.03 8.57\n11 NOWHR 0 49 10\n1 EDDM 0 48.35 11.79\n");
+  OpenRequest open;
+  open.file = (home.Path() / "theirs.fms").string();
+  open.files.saveAs = (home.Path() / "ours.pln").string();
+  const CommandRun run = Capture([&] { return RunOpen(JsonFor(home), open); });
+  ASSERT_EQ(run.exitCode, exitDone) << run.err;
+  const Json document = run.Document();
+  ASSERT_EQ(document["legs"].size(), 3U);
+  EXPECT_EQ(document["legs"][1]["sym"], "Uwp");
+  ASSERT_EQ(document["messages"].size(), 1U);
+  EXPECT_NE(run.err.find(document["messages"][0].get<std::string>()), std::string::npos);
+  open = OpenRequest{};
+  open.file = (home.Path() / "ours.pln").string();
+  EXPECT_EQ(Capture([&] { return RunOpen(JsonFor(home), open); }).Document()["legs"], document["legs"]);
+}
+
 TEST(Cli, APlanIsExportedFormatByFormat) {
   const SmallHome home;
   PlanRequest request;

@@ -50,7 +50,7 @@ PointKind KindNamed(std::string_view name) {
 
 bool IsNamelessPosition(std::string_view code) {
   if (code.size() < 4 || !EqualNoCase(code.substr(0, 3), "Fix")) return false;
-  std::string_view number = Trimmed(code.substr(3));
+  const std::string_view number = Trimmed(code.substr(code[3] == '_' ? 4 : 3));
   return !number.empty() && std::all_of(number.begin(), number.end(), IsDigit);
 }
 

@@ -17,7 +17,7 @@ PointKind KindOf(const PlanWaypoint& row);
 const char* KindName(PointKind kind);
 PointKind KindNamed(std::string_view name);
 
-// "Fix 07": a position without a name of its own.
+// "Fix 07" ("FIX07", "Fix_07" in other programs' files): a position without a name of its own.
 bool IsNamelessPosition(std::string_view code);
 
 // Code and airway (empty: direct) of a row; UTF-8.
