@@ -91,6 +91,9 @@ TEST(PlanWriters, SeparatorsInsideATextDoNotShiftTheFields) {
   EXPECT_NE(WriteSquawkBoxRoute(plan.Export()).find("U:A,B C D:25000:-.500000:-.250000:0:0:0:\r\n"),
             std::string::npos);
   EXPECT_NE(WriteXPlane3Plan(plan.Export()).find("11 A,B:C_D 0 -0.500000 -0.250000\r\n"), std::string::npos);
+  plan.plan.Row(1).Code = "A\nB";
+  EXPECT_NE(WriteIFlyPlan(plan.Export()).find("1,-1,DIRECT,4,A B,-00.5"), std::string::npos);
+  EXPECT_NE(WritePmdgRoute(plan.Export()).find("\r\nA B\r\n5\r\n"), std::string::npos);
 }
 
 // An aircraft that flies no distance gives no fuel plan.

@@ -7,8 +7,10 @@
 #include <string>
 #include <string_view>
 
+// A control character inside the line, which would end it early, becomes a blank.
 inline void AddLine(std::string& text, std::string_view line) {
-  text += line;
+  for (const char c : line)
+    text += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
   text += "\r\n";
 }
 
