@@ -7,6 +7,7 @@
 #include "cli/commands.h"
 #ifdef VELMORA_HAS_DRAW
 #include "cli/draw_command.h"
+#include "cli/print_command.h"
 #endif
 
 namespace {
@@ -26,6 +27,7 @@ struct CommandLine {
   int aircraft = 0;
 #ifdef VELMORA_HAS_DRAW
   DrawRequest draw;
+  PrintRequest print;
 #endif
 };
 
@@ -101,6 +103,7 @@ int RunCommand(const CommandLine& line, const CLI::App& app, const CLI::App& pla
   if (app.got_subcommand("open")) return RunOpen(options, line.open);
 #ifdef VELMORA_HAS_DRAW
   if (app.got_subcommand("draw")) return RunDraw(options, line.draw);
+  if (app.got_subcommand("print")) return RunPrint(options, line.print);
 #endif
   PlanRequest request = line.plan;
   request.mode = ModeOf(line, plan);
@@ -123,6 +126,7 @@ void AddCommands(CLI::App& app, CommandLine& line) {
   AddFileOptions(*open, line.open.files);
 #ifdef VELMORA_HAS_DRAW
   AddDrawCommand(app, line.draw);
+  AddPrintCommand(app, line.print);
 #endif
 }
 

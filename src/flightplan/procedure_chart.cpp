@@ -61,6 +61,21 @@ void PutRunwayFirst(std::vector<SidStarEntry>& entries, std::string_view runway)
                         [&](const SidStarEntry& entry) { return IsForRunway(entry, runway); });
 }
 
+std::optional<LandingRunway> LandingOn(const NavDatabase& database, std::int32_t airport,
+                                       std::string_view runway) {
+  const auto end = RunwayEnd(database, airport, runway);
+  if (!end) return std::nullopt;
+  LandingRunway landing;
+  landing.id = GetRwyName(runway);
+  landing.magneticHeading =
+      end->heading - database.magneticVariation.MagVarLookup(end->threshold.lat, end->threshold.lon);
+  for (const RunwayRec& row : database.Runways(RowOf(database, airport))) {
+    if (SameRunway(row.strRwyID.View(), runway)) landing.hasIls = !row.strIlsCode.Empty();
+    if (SameRunway(row.strRwyIDRecip.View(), runway)) landing.hasIls = !row.strIlsCodeRecip.Empty();
+  }
+  return landing;
+}
+
 ProcedureChart::ProcedureChart(const NavDatabase& database, ProcedureKind kind, std::int32_t airport,
                                std::vector<SidStarEntry> entries)
     : database(database), kind(kind), airport(airport), entries(std::move(entries)) {}
@@ -91,24 +106,10 @@ std::string ProcedureChart::Heading() const {
          (runway.empty() ? "" : " Rwy " + GetRwyName(runway));
 }
 
-std::optional<LandingRunway> ProcedureChart::Landing() const {
-  const auto end = RunwayEnd(database, airport, runway);
-  if (!end) return std::nullopt;
-  LandingRunway landing;
-  landing.id = GetRwyName(runway);
-  landing.magneticHeading =
-      end->heading - database.magneticVariation.MagVarLookup(end->threshold.lat, end->threshold.lon);
-  for (const RunwayRec& row : database.Runways(RowOf(database, airport))) {
-    if (SameRunway(row.strRwyID.View(), runway)) landing.hasIls = !row.strIlsCode.Empty();
-    if (SameRunway(row.strRwyIDRecip.View(), runway)) landing.hasIls = !row.strIlsCodeRecip.Empty();
-  }
-  return landing;
-}
-
 std::string ProcedureChart::Text() const {
   if (picked < 0) return {};
   const SidStarEntry& entry = shown[static_cast<std::size_t>(picked)];
-  return kind == ProcedureKind::sid ? DepartureText(entry, database) : ArrivalText(entry, Landing());
+  return kind == ProcedureKind::sid ? DepartureText(entry, database) : ArrivalText(entry, LandingOn(database, airport, runway));
 }
 
 void ProcedureChart::FitView(MapView& view, SurfacePoint page) const {

@@ -25,6 +25,10 @@ bool IsForRunway(const SidStarEntry& entry, std::string_view runway);
 // their order otherwise. An empty runway changes nothing.
 void PutRunwayFirst(std::vector<SidStarEntry>& entries, std::string_view runway);
 
+// What an arrival's text says of the runway it leads to; nothing if the airport has no such end.
+std::optional<LandingRunway> LandingOn(const NavDatabase& database, std::int32_t airport,
+                                       std::string_view runway);
+
 class ProcedureChart {
  public:
   // airport: row of the airport table. entries: all of the airport's.
@@ -59,7 +63,6 @@ class ProcedureChart {
  private:
   void DrawRunways(DrawSurface& surface, const Projection& projection, const ColorSettings& colors) const;
   void DrawNames(DrawSurface& surface, const Projection& projection, const ColorSettings& colors) const;
-  std::optional<LandingRunway> Landing() const;
 
   const NavDatabase& database;
   ProcedureKind kind;

@@ -26,6 +26,7 @@
 #include "map/measure_line.h"
 #include "map/pointer_panel.h"
 #include "startup/session.h"
+#include "windows/frmPrintFP.h"
 #include "windows/map_canvas.h"
 #include "windows/plan_editor.h"
 #include "windows/pnlFlightplan.h"
@@ -174,6 +175,7 @@ class frmMap : public QMainWindow {
   void TakeRouteText();
   void SavePlan();
   void OpenPlan();
+  void PrintPlan();
   void WithFiledPlan(std::string_view head, const std::function<void()>& body);
   void SelectProcedure(ProcedureKind kind);
   void ShowDepArr();
@@ -204,6 +206,7 @@ class frmMap : public QMainWindow {
   RouteField* txtRoute;
   std::map<QString, QAction*> actions;  // by menu name
   QActionGroup* aircraftGroup;          // belongs to its menu
+  PrintMemory printMemory;
   QPointer<frmFuel> fuel;               // while it is open
   QTimer tmrClock;
   QTimer tmrMousePos;

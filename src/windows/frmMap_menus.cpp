@@ -98,6 +98,8 @@ void frmMap::BuildPlanMenu() {
       "mnuOpenFP", tr("&Open..."), [this] { OpenPlan(); }, "Ctrl+O"));
   plan->addAction(AddCommand(
       "mnuSaveFPAs", tr("&Save as..."), [this] { SavePlan(); }, "Ctrl+S"));
+  plan->addAction(AddCommand(
+      "mnuPrintPlan", tr("Print the fli&ght plan..."), [this] { PrintPlan(); }, "Ctrl+P"));
   plan->addSeparator();
   plan->addAction(AddCommand(
       "mnuExit", tr("E&xit"), [this] { close(); }, "Ctrl+Q"));

@@ -20,6 +20,7 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuCreateHiAlt", &PlanCommandStates::createRoute},
     {"mnuInsertWP", &PlanCommandStates::editRows},
     {"mnuSaveFPAs", &PlanCommandStates::save},
+    {"mnuPrintPlan", &PlanCommandStates::print},
     {"mnuManWP", &PlanCommandStates::addWaypoint},
     {"mnuLevelUp", &PlanCommandStates::stepLevel},
     {"mnuLevelDown", &PlanCommandStates::stepLevel},

@@ -53,6 +53,10 @@ void frmMap::OpenPlan() {
   });
 }
 
+void frmMap::PrintPlan() {
+  Trapped("frmMap mnuPrintPlan (", [&] { frmPrintFP(session, editor, messages, printMemory, this).exec(); });
+}
+
 void frmMap::dragEnterEvent(QDragEnterEvent* event) {
   if (!DraggedPlan(*event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
