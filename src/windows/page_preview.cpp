@@ -63,6 +63,7 @@ void PagePreview::ShowPages(PlacedPages shown, MapDrawer drawer) {
     sheet->setAccessibleName(tr("Page %1 of %2").arg(i + 1).arg(pages.pages.size()));
     column->layout()->addWidget(sheet);
     column->layout()->setAlignment(sheet, Qt::AlignHCenter | Qt::AlignTop);
+    sheet->show();
     sheets.push_back(sheet);
   }
   FitSheets();
@@ -75,6 +76,9 @@ void PagePreview::resizeEvent(QResizeEvent* event) {
 
 void PagePreview::FitSheets() {
   const int width = std::clamp(viewport()->width() - 2 * sheetGap, 50, widestSheet);
+  if (sheets.empty()) return;
+  const int height = qRound(width * pages.paper.height() / pages.paper.width());
   for (PageSheet* sheet : sheets)
-    sheet->setFixedSize(width, qRound(width * pages.paper.height() / pages.paper.width()));
+    sheet->setFixedSize(width, height);
+  column->setFixedHeight(sheetGap + static_cast<int>(sheets.size()) * (height + sheetGap));
 }

@@ -18,7 +18,8 @@ TEST(Print, WritesAsManyPagesAsAreWanted) {
   PlanRequest plan;
   plan.departure = "EDDF";
   plan.destination = "EDDM";
-  plan.saveAs = (home.Path() / "plan.pln").string();
+  const std::string saved = (home.Path() / "plan.pln").string();
+  plan.files.saveAs = saved;
   testing::internal::CaptureStdout();
   ASSERT_EQ(RunPlan(options, plan), exitDone);
   testing::internal::GetCapturedStdout();
@@ -27,7 +28,7 @@ TEST(Print, WritesAsManyPagesAsAreWanted) {
     int count;
   } cases[] = {{{}, 3}, {{"map"}, 1}, {{"waypoints", "zones", "map"}, 3}};
   for (const auto& c : cases) {
-    const PrintRequest request{plan.saveAs, (home.Path() / "plan.pdf").string(), c.pages, "A4"};
+    const PrintRequest request{saved, (home.Path() / "plan.pdf").string(), c.pages, "A4"};
     testing::internal::CaptureStdout();
     EXPECT_EQ(RunPrint(options, request), exitDone);
     const Json document = Json::parse(testing::internal::GetCapturedStdout());
@@ -36,12 +37,12 @@ TEST(Print, WritesAsManyPagesAsAreWanted) {
     EXPECT_EQ(Pages(home.Folder().Read("plan.pdf")), c.count);
   }
   const std::string before = home.Folder().Read("plan.pdf");
-  for (const auto& [file, out] : {std::pair{plan.saveAs, home.Path() / "missing" / "plan.pdf"},
+  for (const auto& [file, out] : {std::pair{saved, home.Path() / "missing" / "plan.pdf"},
                                   {std::string("/nowhere.pln"), home.Path() / "plan.pdf"}}) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(RunPrint(options, {file, out.string(), {}, "A4"}), exitNotDone);
     const std::string reason = testing::internal::GetCapturedStderr();
-    EXPECT_NE(reason.find(file == plan.saveAs ? "missing" : "nowhere"), std::string::npos) << reason;
+    EXPECT_NE(reason.find(file == saved ? "missing" : "nowhere"), std::string::npos) << reason;
   }
   EXPECT_EQ(home.Folder().Read("plan.pdf"), before);
 }

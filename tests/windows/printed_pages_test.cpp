@@ -74,8 +74,8 @@ TEST_P(PagesOn, NothingIsCutOrStandsOnSomethingElse) {
       for (std::size_t j = 0; j < i; ++j)
         EXPECT_FALSE(page.texts[j].box.intersects(box.adjusted(1, 1, -1, -1)))
             << page.texts[i].text.toStdString() << " on " << page.texts[j].text.toStdString();
-      if (page.texts[i].text.startsWith("Leg:"))
-        EXPECT_TRUE(HasSomethingBelow(page, page.texts[i], foot)) << "a heading ends a page";
+      const bool ends = !HasSomethingBelow(page, page.texts[i], foot);
+      EXPECT_FALSE(ends && page.texts[i].text.startsWith("Leg:")) << "a heading ends a page";
     }
   }
 }
@@ -208,6 +208,27 @@ TEST_F(PrintWindow, PrintsTheChosenPagesAndRemembersThem) {
   });
 }
 
+TEST_F(PrintWindow, ShowsThePagesBelowEachOther) {
+  Open().Editor().StartPlan(0, 1);
+  WithPrintWindow([&](frmPrintFP& dialog) {
+    Check(dialog, "chckMap");
+    dialog.resize(1000, 700);
+    QApplication::processEvents();
+    auto* preview = dialog.findChild<PagePreview*>();
+    const auto sheets = preview->widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    ASSERT_EQ(sheets.size(), Pages(dialog));
+    int below = 0;
+    for (const QWidget* sheet : sheets) {
+      EXPECT_TRUE(sheet->isVisible());
+      EXPECT_GE(sheet->y(), below);
+      EXPECT_NEAR(sheet->height() / static_cast<double>(sheet->width()), 297.0 / 210, 0.01);
+      EXPECT_LE(sheet->geometry().right(), preview->viewport()->width());
+      below = sheet->geometry().bottom();
+    }
+    EXPECT_LE(below, preview->widget()->height());
+  });
+}
+
 TEST_F(PrintWindow, WritesAPdfWholeOrSaysWhyNot) {
   Open().Editor().StartPlan(0, 1);
   WithPrintWindow([&](frmPrintFP& dialog) {
@@ -246,7 +267,7 @@ TEST_F(PrintWindow, TheRoutesMapIsDrawnInsideItsArea) {
       route += color.red() > color.green() + 60 ? 1 : 0;
     }
   EXPECT_GT(route, 250);
-  EXPECT_EQ(paper.pixelColor(300, 300), QColor(Qt::white));
+  EXPECT_GT(paper.pixelColor(310, 310).lightness(), 200);
 }
 
 }  // namespace
