@@ -17,6 +17,7 @@
 #include <QTimer>
 #include <functional>
 #include <map>
+#include <memory>
 
 #include "flightplan/plan_drag.h"
 #include "map/drag_box.h"
@@ -26,7 +27,6 @@
 #include "map/measure_line.h"
 #include "map/pointer_panel.h"
 #include "startup/session.h"
-#include "windows/frmPrintFP.h"
 #include "windows/map_canvas.h"
 #include "windows/plan_editor.h"
 #include "windows/pnlFlightplan.h"
@@ -36,6 +36,7 @@
 #include "windows/toggle_ribbon.h"
 
 class frmFuel;
+struct PrintMemory;
 
 class frmMap : public QMainWindow {
   Q_OBJECT
@@ -204,10 +205,10 @@ class frmMap : public QMainWindow {
   StatusStrip* lblMapStatus;
   pnlFlightplan* panel;
   RouteField* txtRoute;
-  std::map<QString, QAction*> actions;  // by menu name
-  QActionGroup* aircraftGroup;          // belongs to its menu
-  PrintMemory printMemory;
-  QPointer<frmFuel> fuel;               // while it is open
+  std::map<QString, QAction*> actions;       // by menu name
+  QActionGroup* aircraftGroup;               // belongs to its menu
+  std::shared_ptr<PrintMemory> printMemory;  // what was printed last; null: nothing yet
+  QPointer<frmFuel> fuel;                    // while it is open
   QTimer tmrClock;
   QTimer tmrMousePos;
   QTimer tmrModeName;  // runs while panel 5 shows its mode's name

@@ -9,6 +9,7 @@
 #include "base/files.h"
 #include "flightplan/plan_file.h"
 #include "windows/frmMap.h"
+#include "windows/frmPrintFP.h"
 
 namespace {
 
@@ -54,7 +55,10 @@ void frmMap::OpenPlan() {
 }
 
 void frmMap::PrintPlan() {
-  Trapped("frmMap mnuPrintPlan (", [&] { frmPrintFP(session, editor, messages, printMemory, this).exec(); });
+  Trapped("frmMap mnuPrintPlan (", [&] {
+    if (!printMemory) printMemory = std::make_shared<PrintMemory>();
+    frmPrintFP(session, editor, messages, *printMemory, this).exec();
+  });
 }
 
 void frmMap::dragEnterEvent(QDragEnterEvent* event) {

@@ -1,38 +1,36 @@
 #include "windows/print_lines.h"
 
-#include <QFontMetricsF>
-#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include "windows/printed_pages.h"
+
 namespace {
 
-constexpr double printedPointSize = 11;
-constexpr double lineHeight = 1.3;  // of the font's
+// What stands before the first colon of a line is a label; a first line without
+// one heads the page, an empty line ends a block.
+PrintedPlan DocumentOf(const std::vector<std::string>& lines) {
+  PrintedPlan document;
+  PrintedSection& section = document.sections.emplace_back();
+  section.blocks.emplace_back();
+  for (const std::string& line : lines) {
+    const std::size_t colon = line.find(": ");
+    if (&line == &lines.front() && colon == std::string::npos)
+      section.heading = line;
+    else if (line.empty())
+      section.blocks.emplace_back();
+    else if (colon == std::string::npos)
+      section.blocks.back().lines.push_back({"", line});
+    else
+      section.blocks.back().lines.push_back({line.substr(0, colon + 1), line.substr(colon + 2)});
+  }
+  return document;
+}
 
 }  // namespace
 
 bool PrintLines(QPagedPaintDevice& paper, const std::vector<std::string>& lines) {
-  QPainter painter;
-  if (!painter.begin(&paper)) return false;
-  QFont font;
-  font.setFamilies({"Inter", "DejaVu Sans"});
-  font.setPointSizeF(printedPointSize);
-  painter.setFont(font);
-  painter.setPen(Qt::black);
-  const QFontMetricsF metrics(font, painter.device());
-  const double step = metrics.height() * lineHeight;
-  const double bottom = painter.viewport().height();
-  double y = 0;
-  for (const std::string& line : lines) {
-    if (y + step > bottom) {
-      if (!paper.newPage()) return false;
-      y = 0;
-    }
-    painter.drawText(QPointF(0, y + metrics.ascent()), QString::fromStdString(line));
-    y += step;
-  }
-  return painter.end();
+  return PrintPages(paper, DocumentOf(lines), {});
 }
 
 bool PrintLinesOnPrinter(QWidget* parent, const std::vector<std::string>& lines) {

@@ -7,8 +7,9 @@
 
 class QWidget;
 
-// Draws the lines (UTF-8) one below the other, on as many pages as they need;
-// an empty line is a gap. False if nothing can be drawn on the paper.
+// Lays the lines (UTF-8) out as printed_pages.h does, on as many pages as they
+// need: those with a colon as label and text, a first one without as heading,
+// an empty line as a gap. False if nothing can be drawn on the paper.
 bool PrintLines(QPagedPaintDevice& paper, const std::vector<std::string>& lines);
 
 // Asks the pilot for a printer first; true also when he gives up.

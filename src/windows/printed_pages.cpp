@@ -12,15 +12,21 @@ namespace {
 constexpr double pointUnits = paperUnitsPerInch / 72;
 constexpr double mmUnits = paperUnitsPerInch / 25.4;
 constexpr QMarginsF margins(16 * mmUnits, 12 * mmUnits, 12 * mmUnits, 10 * mmUnits);  // room to punch holes
-constexpr double lineHeight = 1.22;                                                   // of the font's
+constexpr double lineHeight = 1.12;                                                   // of the font's
 constexpr double blockGap = 7 * pointUnits;
 constexpr double closeGap = 2 * pointUnits;
 constexpr double indent = 14 * pointUnits;     // of lines below a heading without labels
 constexpr double labelGap = 6 * pointUnits;    // between a label and its text
 constexpr double columnGap = 13 * pointUnits;  // between the columns of a table
 constexpr double leastRest = 80 * pointUnits;  // of the column that takes the rest
-constexpr double mostForLabels = 0.4;          // of the width
+constexpr double mostForLabels = 0.45;         // of the width
 constexpr std::size_t mostRowsKeptTogether = 4;
+
+// Small paper is held nearer to the eye.
+double FontScaleOn(QSizeF paper) {
+  constexpr double smallPaper = 180 * mmUnits;
+  return paper.width() < smallPaper ? 0.84 : 1;
+}
 
 QString ToQString(const std::string& text) {
   return QString::fromStdString(text).trimmed();
@@ -44,6 +50,12 @@ double PointsOf(PaperFont font) {
 // Widths and heights of texts; each font is looked up once.
 class Ruler {
  public:
+  explicit Ruler(double fontScale) {
+    for (const PaperFont font :
+         {PaperFont::title, PaperFont::heading, PaperFont::strong, PaperFont::body, PaperFont::small})
+      metrics.emplace_back(FontOf(font, fontScale));
+  }
+
   double Width(const QString& text, PaperFont font) const { return Metrics(font).horizontalAdvance(text); }
   double LineHeight(PaperFont font) const { return Metrics(font).height() * lineHeight; }
 
@@ -79,13 +91,7 @@ class Ruler {
 
   const QFontMetricsF& Metrics(PaperFont font) const { return metrics[static_cast<std::size_t>(font)]; }
 
-  std::vector<QFontMetricsF> metrics = [] {
-    std::vector<QFontMetricsF> all;
-    for (const PaperFont font :
-         {PaperFont::title, PaperFont::heading, PaperFont::strong, PaperFont::body, PaperFont::small})
-      all.emplace_back(FontOf(font));
-    return all;
-  }();
+  std::vector<QFontMetricsF> metrics;
 };
 
 // A strip across the page that is never torn: a line, or a row of a table. The
@@ -224,8 +230,9 @@ class StripMaker {
 // Puts strips on pages.
 class PageMaker {
  public:
-  PageMaker(const PrintedPlan& plan, const QPageSize& paper) : plan(plan) {
-    result.paper = paper.size(QPageSize::Point) * pointUnits;
+  PageMaker(const PrintedPlan& plan, QSizeF paper)
+      : plan(plan), fontScale(FontScaleOn(paper)), ruler(fontScale) {
+    result.paper = paper;
     area = QRectF(QPointF(), result.paper).marginsRemoved(margins);
     result.printed = area;
     bottom = area.bottom() - 2 * ruler.LineHeight(PaperFont::small);
@@ -252,14 +259,18 @@ class PageMaker {
     }
   }
 
-  void BeginPage(const PrintedSection& section, bool first) {
-    result.pages.emplace_back();
-    y = area.top();
+  void WriteHeading() {
     Write(plan.title + (plan.routeType.empty() ? "" : "  " + plan.routeType), PaperFont::title);
     Write(plan.routeLine, PaperFont::strong);
     y += blockGap / 2;
     Page().rules.push_back({QLineF(area.left(), y, area.right(), y)});
     y += blockGap;
+  }
+
+  void BeginPage(const PrintedSection& section, bool first) {
+    result.pages.emplace_back().fontScale = fontScale;
+    y = area.top();
+    if (!plan.title.empty()) WriteHeading();
     if (section.numbered)
       Write(section.heading + std::to_string(result.pages.size()), PaperFont::heading);
     else if (first && !section.heading.empty())
@@ -327,6 +338,7 @@ class PageMaker {
   }
 
   const PrintedPlan& plan;
+  double fontScale;
   Ruler ruler;
   PlacedPages result;
   QRectF area;
@@ -337,10 +349,10 @@ class PageMaker {
 
 }  // namespace
 
-QFont FontOf(PaperFont font) {
+QFont FontOf(PaperFont font, double scale) {
   QFont result;
   result.setFamilies({"Arial", "Liberation Sans", "Nimbus Sans", "DejaVu Sans"});
-  result.setPixelSize(static_cast<int>(std::lround(PointsOf(font) * pointUnits)));
+  result.setPixelSize(static_cast<int>(std::lround(PointsOf(font) * scale * pointUnits)));
   result.setBold(font == PaperFont::title || font == PaperFont::heading || font == PaperFont::strong);
   result.setHintingPreference(QFont::PreferNoHinting);
   return result;
@@ -352,7 +364,7 @@ QPageSize PaperNamed(const QString& name) {
 }
 
 PlacedPages LayOutPages(const PrintedPlan& plan, const QPageSize& paper) {
-  return PageMaker(plan, paper).Make();
+  return PageMaker(plan, paper.size(QPageSize::Point) * pointUnits).Make();
 }
 
 void DrawPage(QPainter& painter, const PlacedPage& page, const MapDrawer& drawMap) {
@@ -364,7 +376,7 @@ void DrawPage(QPainter& painter, const PlacedPage& page, const MapDrawer& drawMa
   }
   painter.setPen(Qt::black);
   for (const PlacedText& text : page.texts) {
-    const QFont font = FontOf(text.font);
+    const QFont font = FontOf(text.font, page.fontScale);
     const QFontMetricsF metrics(font);
     painter.setFont(font);
     const double above = (text.box.height() - metrics.height()) / 2;
@@ -375,6 +387,7 @@ void DrawPage(QPainter& painter, const PlacedPage& page, const MapDrawer& drawMa
 bool PrintPages(QPagedPaintDevice& device, const PrintedPlan& plan, const MapDrawer& drawMap) {
   QPageLayout layout = device.pageLayout();
   layout.setMode(QPageLayout::FullPageMode);
+  layout.setOrientation(QPageLayout::Portrait);
   layout.setMargins({});
   device.setPageLayout(layout);
   const PlacedPages placed = LayOutPages(plan, layout.pageSize());

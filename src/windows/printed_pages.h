@@ -18,8 +18,8 @@ constexpr double paperUnitsPerInch = 600;
 
 enum class PaperFont { title, heading, strong, body, small };
 
-// As it is drawn: Arial, or what stands in for it.
-QFont FontOf(PaperFont font);
+// As it is drawn: Arial, or what stands in for it, somewhat smaller on small paper.
+QFont FontOf(PaperFont font, double scale);
 
 struct PlacedText {
   QRectF box;  // as wide as the text, as high as its line
@@ -33,6 +33,7 @@ struct PlacedRule {
 };
 
 struct PlacedPage {
+  double fontScale = 1;
   std::vector<PlacedText> texts;
   std::vector<PlacedRule> rules;
   QRectF map;  // where the route's map goes; empty: it is not on this page

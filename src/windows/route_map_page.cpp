@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr double fitMargin = 1.15;
+constexpr double fitMargin = 1.25;  // with room for the names at the ends
 constexpr std::int16_t nearestRow = 2;
 constexpr std::int16_t farthestRow = 19;  // farther ones have no names of waypoints
 constexpr float nameWidth = 430;          // units that a waypoint's name needs
