@@ -11,11 +11,13 @@
 
 namespace {
 
-constexpr double fitMargin = 1.25;  // with room for the names at the ends
+constexpr double fitMargin = 1.25;   // with room for the names at the ends
+constexpr double leastHeight = 0.7;  // of the width
+constexpr int fitTurns = 6;
 constexpr std::int16_t nearestRow = 2;
-constexpr std::int16_t farthestRow = 19;  // farther ones have no names of waypoints
-constexpr float nameWidth = 430;          // units that a waypoint's name needs
-constexpr float nameHeight = 210;
+constexpr std::int16_t farthestRow = 19;               // farther ones have no names of waypoints
+constexpr double nameWidth = 0.6 * paperUnitsPerInch;  // that a waypoint's name needs
+constexpr double nameHeight = 0.28 * paperUnitsPerInch;
 constexpr double screenPixelsPerInch = 96;
 
 constexpr ColorValue FromRgb(int red, int green, int blue) {
@@ -46,11 +48,12 @@ class PaperSurface : public QtPainterSurface {
 };
 
 // The plan without those waypoints on the way whose names would stand on others'.
-FlightPlan Thinned(const FlightPlan& plan, const Projection& projection) {
+FlightPlan Thinned(const FlightPlan& plan, const Projection& projection, const PagePlacement& placement) {
   std::vector<SurfacePoint> named;
   const auto isFree = [&](SurfacePoint place) {
     return std::none_of(named.begin(), named.end(), [&](SurfacePoint other) {
-      return std::abs(place.x - other.x) < nameWidth && std::abs(place.y - other.y) < nameHeight;
+      return std::abs(place.x - other.x) * placement.PixelsPerUnit() < nameWidth &&
+             std::abs(place.y - other.y) * placement.PixelsPerUnit() < nameHeight;
     });
   };
   const auto placeOf = [&](const PlanWaypoint& row) {
@@ -82,41 +85,61 @@ std::vector<MapLayer> PaperLayers(const FlightPlan& plan, const FlightPlan& name
   return InDrawingOrder(std::move(layers));
 }
 
-// The largest scale at which the page shows the whole plan.
-MapView ViewOf(const FlightPlan& plan, const VisiblePage& page) {
-  MapView view;
-  ShowWholePlan(plan, view, page);
+// How far the plan reaches from the middle of the page, in units, at least 1.
+SurfacePoint Reach(const FlightPlan& plan, const MapView& view) {
   const Projection projection = view.CurrentProjection();
   std::vector<SurfaceLine> lines;
   for (std::size_t row = 1; row < plan.rows.size(); ++row)
     AppendLegLines(projection, PlaceOf(plan.rows[row - 1]), PlaceOf(plan.rows[row]), lines);
-  double right = 1, down = 1;  // of the middle
+  SurfacePoint reach{1, 1};
   for (const SurfaceLine& line : lines) {
     for (const SurfacePoint point : {line.from, line.to}) {
-      right = std::max(right, std::abs(point.x - mapScaleWidth / 2.0));
-      down = std::max(down, std::abs(point.y - mapScaleHeight / 2.0));
+      reach.x = std::max(reach.x, std::abs(point.x - mapScaleWidth / 2.0F));
+      reach.y = std::max(reach.y, std::abs(point.y - mapScaleHeight / 2.0F));
     }
   }
-  const double larger = std::min(page.width / (2 * fitMargin * right), page.height / (2 * fitMargin * down));
-  const double scale = std::min<double>(view.MapScale * larger, ZoomTable[nearestRow].scale);
-  view.MapScale = std::max(1, FloorToInt(scale));
-  view.ZoomIndex =
-      std::min(farthestRow, NearestZoomRow(RoundToEven(mapScaleHeight / scale * 60), farthestRow));
-  view.UpdateVisibilityBox();
-  return view;
+  return reach;
+}
+
+// The upper part of the area that a route needs which leads more east and west.
+QRectF NeededPart(const FlightPlan& plan, const QRectF& area) {
+  MapView view;
+  ShowWholePlan(plan, view);
+  const SurfacePoint reach = Reach(plan, view);
+  const double height = area.width() * std::max(leastHeight, fitMargin * reach.y / reach.x);
+  return {area.left(), area.top(), area.width(), std::min(area.height(), height)};
 }
 
 }  // namespace
 
+MapView RouteMapView(const FlightPlan& plan, const VisiblePage& page) {
+  MapView view;
+  ShowWholePlan(plan, view, page);
+  const float middle = view.MapCenterLat;
+  // A page that would show what lies beyond a pole moves its middle, and with it the plan's width.
+  for (int turn = 0; turn < fitTurns; ++turn) {
+    const SurfacePoint reach = Reach(plan, view);
+    const double room = std::min(page.width / reach.x, page.height / reach.y) / (2 * fitMargin);
+    const double scale = view.MapScale * room;
+    view.MapScale = std::max(1, FloorToInt(std::min<double>(scale, ZoomTable[nearestRow].scale)));
+    view.MapCenterLat = middle;
+    view.UpdateVisibilityBox();
+  }
+  const std::int32_t rangeNM = RoundToEven(mapScaleHeight * 60.0 / view.MapScale);
+  view.ZoomIndex = std::min(farthestRow, NearestZoomRow(rangeNM, farthestRow));
+  return view;
+}
+
 MapDrawer RouteMapDrawer(const FlightPlan& plan, const NavDatabase& database, const Settings& settings) {
-  return [&plan, &database, &settings](QPainter& painter, const QRectF& area) {
+  return [&plan, &database, &settings](QPainter& painter, const QRectF& whole) {
+    const QRectF area = NeededPart(plan, whole);
     const double density = paperUnitsPerInch / screenPixelsPerInch;
     const PagePlacement placement(area.width(), area.height());
     const auto visible = [&](double pixels) {
       return static_cast<float>(pixels / placement.PixelsPerUnit());
     };
-    MapView view = ViewOf(plan, {visible(area.width()), visible(area.height())});
-    const FlightPlan named = Thinned(plan, view.CurrentProjection());
+    MapView view = RouteMapView(plan, {visible(area.width()), visible(area.height())});
+    const FlightPlan named = Thinned(plan, view.CurrentProjection(), placement);
     const Settings paper = PaperSettings(settings);
     modDeclutter labels;
     MapSwitches switches;
