@@ -6,6 +6,7 @@ PlanCommandStates CommandStates(const FlightPlan& plan, const PlanHistory& histo
   return {.newPlan = plan.RowCount() > 0,
           .createRoute = plan.PlanFiled && changeable,
           .save = plan.CanSave && changeable,
+          .saveAgain = changeable,
           .openSegment = plan.CanSave && changeable,
           .saveSegment = plan.CanSave && changeable,
           .print = plan.CanSave,

@@ -8,7 +8,8 @@
 struct PlanCommandStates {
   bool newPlan = false;        // mnuNewFP
   bool createRoute = false;    // mnuCreateNavaid, mnuCreateLoAlt, mnuCreateHiAlt and their buttons
-  bool save = false;           // mnuSaveFP, mnuSaveFPAs
+  bool save = false;           // mnuSaveFPAs
+  bool saveAgain = true;       // mnuSaveFP; without a plan or its name it says so
   bool openSegment = false;    // mnuOpenSegment
   bool saveSegment = false;    // mnuSaveSegment
   bool print = false;          // mnuPrintPlan

@@ -2,6 +2,20 @@
 
 #include <string_view>
 
+namespace {
+
+void TakePlan(CommandLine& line, const std::string& argument) {
+  if (!line.plan.empty()) {
+    line.error = "only one flight plan can be opened";
+    return;
+  }
+  std::error_code error;
+  line.plan = std::filesystem::absolute(argument, error);
+  if (error) line.plan = argument;
+}
+
+}  // namespace
+
 CommandLine TakeOptions(const std::vector<std::string>& arguments) {
   constexpr std::string_view homeIs = "--home=";
   CommandLine line;
@@ -17,6 +31,8 @@ CommandLine TakeOptions(const std::vector<std::string>& arguments) {
       line.error = "--home needs a folder";
     } else if (argument.starts_with(homeIs)) {
       line.home = argument.substr(homeIs.size());
+    } else if (!argument.starts_with('-') && argument.find_first_of("./") != std::string::npos) {
+      TakePlan(line, argument);
     } else {
       if (!line.rest.empty()) line.rest += ' ';
       line.rest += argument;

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -14,6 +13,7 @@
 #include "flightplan/procedure_layer.h"
 #include "map/switch_settings.h"
 #include "settings/settings_file.h"
+#include "windows/frmSaveRoute.h"
 #include "windows/window_place.h"
 
 namespace {
@@ -40,7 +40,6 @@ std::vector<QRect> FreeScreens() {
 frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
     : session(session), messages(messages), editor(session, messages, pointer) {
   setObjectName("frmMap");
-  setWindowTitle(QString::fromUtf8(messageTitle.data(), messageTitle.size()));
   setMinimumSize(smallestSize);
   setAcceptDrops(true);
   OpenView();
@@ -80,12 +79,9 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   connect(panel, &pnlFlightplan::WaypointPicked, &editor, &PlanEditor::InsertAfterSelection);
   connect(&editor, &PlanEditor::Changed, this, &frmMap::PlanChanged);
   connect(&editor, &PlanEditor::Started, this, &frmMap::ShowNewPlan);
-  askOpenFile = [this](const QString& folder) {
-    return QFileDialog::getOpenFileName(this, tr("Open flight plan"), folder, tr("Flight plans (*.pln)"));
-  };
-  askPlanFile = [this](const QString& proposal) {
-    return QFileDialog::getSaveFileName(this, tr("Save flight plan"), proposal, tr("Flight plans (*.pln)"));
-  };
+  showSaveRoute = [](frmSaveRoute& dialog) { return dialog.exec() == QDialog::Accepted; };
+  tmrUnsaved.setSingleShot(true);
+  connect(&tmrUnsaved, &QTimer::timeout, this, [this] { KeepUnsavedPlan(); });
   connect(&tmrMousePos, &QTimer::timeout, this, [this] { MousePosTick(); });
   tmrMousePos.start(panelRest);
   PlanChanged();
@@ -223,6 +219,8 @@ void frmMap::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmMap::closeEvent(QCloseEvent* event) {
+  if (!MayLosePlan()) return event->ignore();
+  DropUnsavedPlan();
   Trapped("frmMap Unload (", [&] {
     session.settings.SCALE = session.view.ZoomIndex;
     StoreSwitches(session.switches, session.settings);

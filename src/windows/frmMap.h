@@ -19,6 +19,7 @@
 #include <map>
 #include <memory>
 
+#include "flightplan/known_plan_file.h"
 #include "flightplan/plan_drag.h"
 #include "map/drag_box.h"
 #include "map/draw_map.h"
@@ -37,6 +38,12 @@
 
 class frmFuel;
 struct PrintMemory;
+class frmSaveRoute;
+
+inline constexpr std::string_view savePlanFirstText =
+    "The flight plan has not been saved. Do you wish to save it first?";
+inline constexpr std::string_view unsavedPlanText =
+    "Velmora was not closed the last time. Do you wish to have the flight plan back that was not saved?";
 
 class frmMap : public QMainWindow {
   Q_OBJECT
@@ -49,10 +56,11 @@ class frmMap : public QMainWindow {
   void SelectAirports();
   PlanEditor& Editor() { return editor; }
 
-  // Asks for the name of a plan file; empty: not saved. The file dialog, unless replaced.
-  std::function<QString(const QString& proposal)> askPlanFile;
-  // Asks for a plan file in a folder; empty: none is opened. The file dialog, unless replaced.
-  std::function<QString(const QString& folder)> askOpenFile;
+  // What follows the start: a plan that was not saved is offered, then the plan file of the command
+  // line is opened, or else, if that is wanted, the airports are chosen.
+  void Begin(const std::filesystem::path& plan, bool selectAirports);
+  // Shows the window that opens and saves plans; true on OK. Its exec(), unless replaced.
+  std::function<bool(frmSaveRoute&)> showSaveRoute;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -165,6 +173,7 @@ class frmMap : public QMainWindow {
   // The plan.
   void ChooseAirports(const AirportChoice& opening);
   void TakeAirport(const AirportChoice& choice);
+  void TakeAirports(const AirportChoice& choice);
   // Departure, destination, alternate: what the airports under the pointer can be.
   void AddAirportItems(QMenu& menu, const std::vector<MapObject>& objects);
   void AddWaypoint();
@@ -174,13 +183,25 @@ class frmMap : public QMainWindow {
   void CentreOnRow(int row);
   void BuildRouteField(class QToolBar* bar);
   void TakeRouteText();
-  void SavePlan();
-  void OpenPlan();
   void PrintPlan();
+  // False if the plan is not in its file afterwards.
+  bool SavePlanAs();
+  bool SavePlan();
+  bool MayLosePlan();
+  void ClearPlan();
+  void ChoosePlan();
+  void OpenPlan(const std::filesystem::path& file);
+  void ListRecentPlans();
+  void OpenRecent(const std::filesystem::path& file);
+  void TookFile(const std::filesystem::path& file);
+  void ShowPlanName();
+  void KeepUnsavedPlan();
+  void DropUnsavedPlan();
+  void OfferUnsavedPlan();
   void WithFiledPlan(std::string_view head, const std::function<void()>& body);
   void SelectProcedure(ProcedureKind kind);
   void ShowDepArr();
-  QString PlanFolder() const;
+  std::filesystem::path PlansFolder() const;
   void ShowAircraft();
   void ShowFuel();
   void ShowOptions();
@@ -205,10 +226,14 @@ class frmMap : public QMainWindow {
   StatusStrip* lblMapStatus;
   pnlFlightplan* panel;
   RouteField* txtRoute;
+  std::shared_ptr<PrintMemory> printMemory;  // what was printed last; null: nothing yet
   std::map<QString, QAction*> actions;       // by menu name
   QActionGroup* aircraftGroup;               // belongs to its menu
-  std::shared_ptr<PrintMemory> printMemory;  // what was printed last; null: nothing yet
   QPointer<frmFuel> fuel;                    // while it is open
+  QMenu* recentMenu;                         // belongs to its menu
+  KnownPlanFile planFile;                    // of the plan
+  std::filesystem::path planFolder;          // last used in frmSaveRoute
+  QTimer tmrUnsaved;                         // runs from a change of the plan to its copy
   QTimer tmrClock;
   QTimer tmrMousePos;
   QTimer tmrModeName;  // runs while panel 5 shows its mode's name

@@ -93,13 +93,18 @@ void frmMap::BuildPlanMenu() {
       "mnuLevelDown", tr("Low&er the cruise level"), [this] { editor.StepLevel(false); }, "Ctrl+Down"));
   BuildProceduresMenu(plan);
   plan->addSeparator();
-  plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { editor.NewPlan(); }));
+  plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { ClearPlan(); }));
   plan->addAction(AddCommand(
-      "mnuOpenFP", tr("&Open..."), [this] { OpenPlan(); }, "Ctrl+O"));
-  plan->addAction(AddCommand(
-      "mnuSaveFPAs", tr("&Save as..."), [this] { SavePlan(); }, "Ctrl+S"));
+      "mnuOpenFP", tr("&Open..."), [this] { ChoosePlan(); }, "Ctrl+O"));
+  recentMenu = plan->addMenu(tr("Pic&k a recent plan"));
+  recentMenu->setObjectName("mnuRecent");
+  connect(plan, &QMenu::aboutToShow, this, &frmMap::ListRecentPlans);
   plan->addAction(AddCommand(
       "mnuPrintPlan", tr("Print the fli&ght plan..."), [this] { PrintPlan(); }, "Ctrl+P"));
+  plan->addAction(AddCommand(
+      "mnuSaveFP", tr("&Save"), [this] { SavePlan(); }, "Ctrl+S"));
+  plan->addAction(AddCommand(
+      "mnuSaveFPAs", tr("Sa&ve as..."), [this] { SavePlanAs(); }, "Ctrl+Alt+S"));
   plan->addSeparator();
   plan->addAction(AddCommand(
       "mnuExit", tr("E&xit"), [this] { close(); }, "Ctrl+Q"));

@@ -21,6 +21,7 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuInsertWP", &PlanCommandStates::editRows},
     {"mnuSaveFPAs", &PlanCommandStates::save},
     {"mnuPrintPlan", &PlanCommandStates::print},
+    {"mnuSaveFP", &PlanCommandStates::saveAgain},
     {"mnuManWP", &PlanCommandStates::addWaypoint},
     {"mnuLevelUp", &PlanCommandStates::stepLevel},
     {"mnuLevelDown", &PlanCommandStates::stepLevel},
@@ -64,15 +65,19 @@ void frmMap::SelectAirports() {
 void frmMap::ChooseAirports(const AirportChoice& opening) {
   Trapped("frmMap SelectAirports (", [&] {
     frmSelectAP dialog(session.plan, session.database, opening, this);
-    if (dialog.exec() == QDialog::Accepted) editor.TakeAirports(dialog.Choice());
+    if (dialog.exec() == QDialog::Accepted) TakeAirports(dialog.Choice());
   });
+}
+
+void frmMap::TakeAirports(const AirportChoice& choice) {
+  if (!IsNewPlan(choice, session.plan) || MayLosePlan()) editor.TakeAirports(choice);
 }
 
 // A plan that is complete and loses no route is taken as it is; everything else
 // is shown to the pilot first.
 void frmMap::TakeAirport(const AirportChoice& choice) {
   const bool losesRoute = session.plan.RowCount() > 2 && IsNewPlan(choice, session.plan);
-  if (choice.Complete() && !losesRoute) return editor.TakeAirports(choice);
+  if (choice.Complete() && !losesRoute) return TakeAirports(choice);
   ChooseAirports(choice);
 }
 
@@ -108,6 +113,7 @@ void frmMap::AddWaypoint() {
 void frmMap::PlanChanged() {
   Trapped("frmMap PlanChanged (", [&] {
     ShowCommandStates();
+    ShowPlanName();
     txtRoute->setText(QString::fromStdString(editor.RouteText()));
     txtRoute->setCursorPosition(0);  // a long one shows its beginning
     panel->Refresh(editor.States());

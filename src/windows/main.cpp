@@ -14,10 +14,11 @@
 namespace {
 
 constexpr const char* usage =
-    "usage: velmora [--home DIR] [0|1]\n"
+    "usage: velmora [--home DIR] [0|1] [PLAN]\n"
     "  --home DIR  the application folder (else $VELMORA_HOME, $XDG_DATA_HOME/velmora,\n"
     "              ~/.local/share/velmora)\n"
     "  0, 1        use the database of Flight Simulator 2004, of Flight Simulator X\n"
+    "  PLAN        a flight plan file to open\n"
     "  --version   print the version\n"
     "  --help      print this text\n";
 
@@ -37,8 +38,8 @@ int RunProgram(QApplication& application, const CommandLine& line) {
   frmMap map(session, messages, pointer);
   messages.SetParent(&map);
   map.show();
-  if (outcome == StartOutcome::showAirportSelection)
-    QTimer::singleShot(0, &map, [&map] { map.SelectAirports(); });
+  const bool selectAirports = outcome == StartOutcome::showAirportSelection;
+  QTimer::singleShot(0, &map, [&] { map.Begin(line.plan, selectAirports); });
   return QApplication::exec();
 }
 

@@ -19,6 +19,18 @@ PlanContext PlanEditor::Context() const {
   return {session.database, session.aircraft, messages, session.settings.FAFDIST, &report};
 }
 
+PlanSaving PlanEditor::Saving() const {
+  // Without a cycle the session has a sentence.
+  const bool hasCycle = session.strAiracCycle.find_first_of("0123456789") == 0;
+  return {session.plan,
+          Context(),
+          session.home,
+          session.settings,
+          session.strFSPath,
+          std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()),
+          hasCycle ? session.strAiracCycle : std::string()};
+}
+
 PlanCommandStates PlanEditor::States() const {
   return CommandStates(session.plan, session.planHistory, fromRouteString);
 }
@@ -95,11 +107,13 @@ void PlanEditor::TakeRoute(const std::string& text) {
   if (session.plan.RowCount() >= 2) Q_EMIT Started();
 }
 
-void PlanEditor::OpenPlan(const std::filesystem::path& file) {
+bool PlanEditor::OpenPlan(const std::filesystem::path& file) {
   std::string reason;
   const std::optional<FileBytes> bytes = ReadWholeFile(file, &reason);
-  if (!bytes)
-    return messages.Show("The flight plan could not be opened.\n\n" + reason, MessageIcon::exclamation);
+  if (!bytes) {
+    messages.Show("The flight plan could not be opened.\n\n" + reason, MessageIcon::exclamation);
+    return false;
+  }
   bool opened = false;
   Change("Check frmSaveRoute cmdOK (", [&] {
     const PlanReading reading = ReadPlan(session.plan, Context(), bytes->Text());
@@ -111,6 +125,7 @@ void PlanEditor::OpenPlan(const std::filesystem::path& file) {
     fromRouteString = false;
   });
   if (opened) Q_EMIT Started();
+  return opened;
 }
 
 void PlanEditor::DeleteEnrouteWPs() {
@@ -196,4 +211,9 @@ void PlanEditor::TakeAircraft(const AircraftRec& aircraft) {
     session.settings.AIRCRAFT = session.aircraft.Number;
     session.planHistory.Adopt(session.plan);
   });
+}
+
+void PlanEditor::SetPlanType(const std::string& type) {
+  session.plan.PlanType = type;
+  session.planHistory.Adopt(session.plan);
 }

@@ -16,6 +16,7 @@
 #include "flightplan/procedure_file.h"
 #include "flightplan/route_generation.h"
 #include "flightplan/route_report.h"
+#include "flightplan/save_plan.h"
 #include "platform/pointer_shape.h"
 #include "startup/session.h"
 
@@ -28,6 +29,8 @@ class PlanEditor : public QObject {
 
   PlanContext Context() const;
   PlanCommandStates States() const;
+  // What a save of the plan works with.
+  PlanSaving Saving() const;
   // The plan as one line for txtRoute, UTF-8; empty after all waypoints were deleted.
   const std::string& RouteText() const { return routeText; }
 
@@ -50,7 +53,8 @@ class PlanEditor : public QObject {
   void TakeRoute(const std::string& text);
   // The plan of a file (plan_reader.h). One that cannot be read leaves the plan
   // as it is and is told; what cannot be taken from it goes into the protocol log.
-  void OpenPlan(const std::filesystem::path& file);
+  // True if the plan is the file's now.
+  bool OpenPlan(const std::filesystem::path& file);
   void DeleteEnrouteWPs();
   void DeleteRow(int row);
   // What the file has for the plan's departure (SIDs) or destination (STARs).
@@ -71,6 +75,8 @@ class PlanEditor : public QObject {
   void Undo();
   void Redo();
   void TakeAircraft(const AircraftRec& aircraft);
+  // "IFR" or "VFR"; nothing that could be undone.
+  void SetPlanType(const std::string& type);
 
  Q_SIGNALS:
   // The plan is another, or has other figures.

@@ -40,7 +40,7 @@ TEST(PlanCommands, FollowFromThePlan) {
   cases.push_back({"shown, but not to be changed", DirectPlan(), false, direct});
   cases.back().plan.MissingWaypoints = true;
   PlanCommandStates& shown = cases.back().expected;
-  shown.createRoute = shown.save = shown.openSegment = shown.saveSegment = shown.editRows =
+  shown.createRoute = shown.save = shown.saveAgain = shown.openSegment = shown.saveSegment = shown.editRows =
       shown.addWaypoint = shown.procedures = false;
   for (const Case& c : cases)
     EXPECT_EQ(CommandStates(c.plan, PlanHistory{}, c.fromRouteString), c.expected) << c.what;

@@ -26,6 +26,11 @@ TEST(CommandLine, TakesItsOwnOptionsOut) {
     EXPECT_EQ(line.rest, c.rest);
     EXPECT_EQ(!line.error.empty(), c.error);
   }
+  const CommandLine line = TakeOptions({"0", "/x/Z19.pln", "Z"});
+  EXPECT_EQ(line.plan, "/x/Z19.pln");
+  EXPECT_EQ(line.rest, "0 Z") << "a plan's letters must not choose the simulator";
+  EXPECT_EQ(TakeOptions({"a.pln"}).plan, std::filesystem::current_path() / "a.pln");
+  EXPECT_NE(TakeOptions({"a.pln", "b.pln"}).error, "");
   EXPECT_TRUE(TakeOptions({"--help"}).help);
   EXPECT_TRUE(TakeOptions({"--version"}).version);
 }

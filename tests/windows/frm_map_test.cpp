@@ -223,9 +223,7 @@ TEST_F(Window, MakesAndSavesAHighAltitudePlan) {
   EXPECT_EQ(table.rowCount(), 6);
 
   const std::filesystem::path file = folder.Path() / "test.pln";
-  window->askPlanFile = [&](const QString&) {
-    return QString::fromStdString((folder.Path() / "test").string());
-  };
+  ChooseFile(folder.Path() / "test");
   Press("cmdSaveFPAs");
   const auto saved = ReadWholeFile(file);
   ASSERT_TRUE(saved);
@@ -235,15 +233,6 @@ TEST_F(Window, MakesAndSavesAHighAltitudePlan) {
   EXPECT_EQ(session.plan.RowCount(), 0);
   EXPECT_FALSE(Find<QFrame>("pnlFlightplan").isVisible());
   EXPECT_FALSE(Find<QToolButton>("cmdHiAlt").isEnabled());
-}
-
-TEST_F(Window, AnUnwritablePlanFileIsToldAndNothingElseHappens) {
-  Open();
-  window->Editor().StartPlan(0, 1);
-  window->askPlanFile = [](const QString&) { return QString("/nowhere/at/all.pln"); };
-  Press("cmdSaveFPAs");
-  ASSERT_EQ(messages.texts.size(), 1u);
-  EXPECT_TRUE(messages.texts[0].starts_with("The flight plan could not be saved."));
 }
 
 TEST_F(Window, ASelectedRowIsWhereTheNextRouteGoes) {

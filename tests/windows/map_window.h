@@ -16,11 +16,25 @@
 #include "tests/temporary_folder.h"
 #include "tests/windows/window_world.h"
 #include "windows/frmMap.h"
+#include "windows/frmSaveRoute.h"
 
 class NoPointer : public PointerShape {
  public:
   void SetHourglass(bool on) override { depth += on ? 1 : -1; }
   int depth = 0;
+};
+
+// A pilot who gives plans up, unless a test says that he saves them first.
+class PilotMessages : public HeardMessages {
+ public:
+  bool AskYesNo(std::string_view text, MessageIcon icon) override {
+    if (text != savePlanFirstText) return HeardMessages::AskYesNo(text, icon);
+    ++askedToSave;
+    return savesFirst;
+  }
+
+  int askedToSave = 0;
+  bool savesFirst = false;
 };
 
 class MapWindow : public testing::Test {
@@ -60,6 +74,24 @@ class MapWindow : public testing::Test {
     QTest::mouseClick(&Find<QLabel>(QString("lblMapStatus(%1)").arg(index)), button);
   }
 
+  // In the window that opens plans the pilot goes to a file and presses OK; in
+  // the one that saves them he gives it the file's name, with the own format.
+  void ChooseFile(const std::filesystem::path& file) {
+    window->showSaveRoute = [file](frmSaveRoute& dialog) {
+      auto& list = *dialog.findChild<PlanList*>("flstFPlan");
+      list.ShowFolder(file.parent_path());
+      if (auto* name = dialog.findChild<QLineEdit*>("txtFileName")) {
+        name->setText(QString::fromStdString(file.filename().string()));
+        for (auto* box : dialog.findChildren<QCheckBox*>())
+          box->setChecked(box->objectName() == "chckFormat(0)");
+      } else {
+        list.Select(QString::fromStdString(file.filename().string()));
+      }
+      QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+      return dialog.result() == QDialog::Accepted;
+    };
+  }
+
   // Brings the map to a centre and a range.
   void Look(float lat, float lon, const QString& zoomMenu) {
     session.view.MapCenterLat = lat;
@@ -92,7 +124,7 @@ class MapWindow : public testing::Test {
 
   TemporaryFolder folder;
   DrawnWorld world{windowWorld};
-  HeardMessages messages;
+  PilotMessages messages;
   NoPointer pointer;
   Session session;
   std::unique_ptr<frmMap> window;

@@ -1,8 +1,6 @@
 // What the pilot does to the plan in the main window: routes, route strings,
 // rows deleted, and all of it undone.
-#include <QDropEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QTableView>
 
 #include "tests/windows/map_window.h"
@@ -129,62 +127,6 @@ TEST_F(PlanChanges, AnotherAircraftIsNoChangeToUndo) {
   EXPECT_EQ(Codes(), "EDDA EDDB") << "the route is what was undone";
   Trigger("mnuRedo");
   EXPECT_LT(session.plan.TotalMinutes, slowMinutes) << "the times are those of the aircraft that flies now";
-}
-
-TEST_F(PlanChanges, ASavedPlanIsOpenedOrDroppedOnTheWindow) {
-  Open().Editor().StartPlan(0, 1);
-  Trigger("mnuCreateLoAlt");
-  const std::string saved = Codes();
-  const QString file = QString::fromStdString((folder.Path() / "saved.pln").string());
-  window->askPlanFile = window->askOpenFile = [&](const QString&) { return file; };
-  Trigger("mnuSaveFPAs");
-  Trigger("mnuNewFP");
-  Trigger("mnuOpenFP");
-  EXPECT_EQ(Codes(), saved);
-  EXPECT_TRUE(messages.texts.empty());
-  EXPECT_TRUE(Find<QAction>("mnuCreateHiAlt").isEnabled());
-  Trigger("mnuUndo");
-  EXPECT_EQ(Codes(), "") << "opening is a change like any other";
-
-  QMimeData dragged;
-  dragged.setUrls({QUrl::fromLocalFile(file)});
-  QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(window.get(), &enter);
-  EXPECT_TRUE(enter.isAccepted());
-  QDropEvent drop(QPointF(100, 100), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(window.get(), &drop);
-  EXPECT_EQ(Codes(), saved);
-}
-
-TEST_F(PlanChanges, AFileThatIsNoPlanLeavesThePlan) {
-  Open().Editor().StartPlan(0, 1);
-  folder.Write("other.pln", "[Flightplan]\r\ntype=IFR\r\n");
-  QString file = QString::fromStdString((folder.Path() / "other.pln").string());
-  window->askOpenFile = [&](const QString&) { return file; };
-  Trigger("mnuOpenFP");
-  EXPECT_EQ(messages.texts.back(), " Sorry! This is not a valid VLM flight plan!");
-  file = "/nowhere/at/all.pln";
-  Trigger("mnuOpenFP");
-  EXPECT_TRUE(messages.texts.back().starts_with("The flight plan could not be opened."));
-  EXPECT_EQ(Codes(), "EDDA EDDB");
-  EXPECT_EQ(pointer.depth, 0);
-}
-
-TEST_F(PlanChanges, APlanWithMissingWaypointsIsShownAndNotChanged) {
-  Open().Editor().StartPlan(0, 1);
-  Trigger("mnuCreateLoAlt");
-  const QString file = QString::fromStdString((folder.Path() / "saved.pln").string());
-  window->askPlanFile = window->askOpenFile = [&](const QString&) { return file; };
-  Trigger("mnuSaveFPAs");
-  const std::string saved = Codes();
-  for (IntersectionRec& intersection : session.database.intersections)
-    if (intersection.strCode == "B") intersection.sngLon += 3;
-  Trigger("mnuOpenFP");
-  EXPECT_EQ(Codes(), saved);
-  EXPECT_TRUE(messages.texts.back().starts_with("Some waypoints are missing in current database!"));
-  for (const char* command :
-       {"mnuCreateNavaid", "mnuCreateLoAlt", "mnuCreateHiAlt", "mnuSaveFPAs", "mnuManWP"})
-    EXPECT_FALSE(Find<QAction>(command).isEnabled()) << command;
 }
 
 }  // namespace

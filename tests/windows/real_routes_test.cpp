@@ -33,7 +33,7 @@ class RealRoutes : public MapWindow {
     Open();
     // What the map looks like is not asked here.
     Map().drawPicture = [](DrawSurface&) {};
-    window->askPlanFile = [this](const QString&) { return QString::fromStdString(PlanFile()); };
+    ChooseFile(PlanFile());
   }
 
   std::string PlanFile() const { return (folder.Path() / "saved.pln").string(); }
