@@ -70,6 +70,7 @@ class PlanSaver {
       return false;
     }
     written.push_back(file);
+    WriteCompanion(format, file.parent_path());
     return true;
   }
 
@@ -92,6 +93,15 @@ class PlanSaver {
     if (fs::is_directory(folder, ignored)) return true;
     reason = folder.string() + ": " + (error ? error.message() : "no folder");
     return false;
+  }
+
+  void WriteCompanion(const PlanFormatInfo& format, const fs::path& folder) {
+    if (format.companionText == nullptr) return;
+    const fs::path file = folder / format.companionName;
+    std::error_code error;
+    std::string reason;
+    if (!fs::exists(file, error) && !ReplaceFile(file, format.companionText(), &reason))
+      Refuse(format, reason);
   }
 
   fs::path TryWrite(const PlanFormatInfo& format, const fs::path& planFolder, std::string_view baseName) {

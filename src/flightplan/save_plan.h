@@ -26,7 +26,7 @@ struct PlanSaving {
   Settings& settings;
   std::string simulatorPath;       // root folder of the simulator in use, empty if unknown
   std::chrono::sys_seconds now{};  // UTC
-  std::string airacCycle;          // empty: unknown
+  std::string airacCycle;          // as plan_export.h takes it
 };
 
 struct PlanSaveChoice {

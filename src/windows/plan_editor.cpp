@@ -20,15 +20,13 @@ PlanContext PlanEditor::Context() const {
 }
 
 PlanSaving PlanEditor::Saving() const {
-  // Without a cycle the session has a sentence.
-  const bool hasCycle = session.strAiracCycle.find_first_of("0123456789") == 0;
   return {session.plan,
           Context(),
           session.home,
           session.settings,
           session.strFSPath,
           std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()),
-          hasCycle ? session.strAiracCycle : std::string()};
+          session.strAiracCycle};
 }
 
 PlanCommandStates PlanEditor::States() const {

@@ -23,7 +23,10 @@ namespace fs = std::filesystem;
 
 constexpr std::int32_t own = 1 << 0;
 constexpr std::int32_t radarContact = 1 << 1;
+constexpr std::int32_t pmdg = 1 << 4;
+constexpr std::int32_t levelD = 1 << 7;
 constexpr std::int32_t projectMagenta = 1 << 9;
+constexpr std::int32_t iFly = 1 << 11;
 
 class SavedPlans : public testing::Test {
  protected:
@@ -85,6 +88,52 @@ TEST_F(SavedPlans, NoFormatTakesTheFileOfAnother) {
   saved = Save("trip", radarContact);
   EXPECT_TRUE(saved.written.empty()) << "the plan would be lost";
   EXPECT_NE(Read("plans/trip.pln").find("[VLM]"), std::string::npos);
+}
+
+TEST_F(SavedPlans, AircraftOfTheSimulatorAreServedBelowItsFolder) {
+  const fs::path simulator = folder.Path() / "FS9";
+  folder.Write("FS9/SCENERY.CFG", "");
+  folder.Write("FS9/pmdg/FlightPlans/old.rte", "");
+  flight.messages.answer = false;
+  const PlanSaved saved = Save("trip", ~0, simulator.string() + "\\");
+  const auto first = [&](std::size_t i) { return saved.written.at(i); };
+  EXPECT_EQ(first(0), simulator / "pmdg" / "FlightPlans" / "trip.rte");
+  EXPECT_EQ(first(1), simulator / "Level-D Simulations" / "navdata" / "Flightplans" / "trip.rte");
+  EXPECT_EQ(first(2), simulator / "ifly" / "747-400" / "navdata" / "fltplan" / "trip.fltplan");
+  EXPECT_EQ(first(3), plans / "trip.pln");
+  EXPECT_EQ(saved.failures, 0);
+  EXPECT_EQ(saved.written.size(), PlanFormats().size()) << "every format has a place of its own";
+  EXPECT_TRUE(fs::exists(home.Root() / "FSplan" / "XPlane" / "EDDFEDDM.fms"));
+  EXPECT_TRUE(fs::exists(plans / "vlm.xsl")) << "beside trip.xml";
+  EXPECT_EQ(Told(), (std::vector<std::string>{"Saving Flightplan include SID's and Star's for PMDG?",
+                                              "Saving Flightplan include SID's and Star's for LevelD?"}));
+  EXPECT_EQ(Read(first(0)).find("DEMAB"), std::string::npos) << "the SID was declined";
+  EXPECT_NE(Read(first(2)).find("DEMAB"), std::string::npos) << "where nobody was asked it is there";
+}
+
+TEST_F(SavedPlans, WithoutTheSimulatorItsFormatsAreToldAndTheOthersWritten) {
+  const PlanSaved saved = Save("trip", pmdg | levelD | iFly | own, (folder.Path() / "noFS").string());
+  const fs::path fallback = home.Root() / "FSPlan";
+  EXPECT_EQ(saved.written, (std::vector<fs::path>{fallback / "trip.rte", plans / "trip.pln"}));
+  EXPECT_EQ(saved.failures, 2);
+  ASSERT_EQ(Told().size(), 7u);
+  EXPECT_EQ(Told()[0],
+            "\nFlight plan cannot be saved because FS Path unknown!\n      Please specify FS Path in Options "
+            "Window!");
+  EXPECT_EQ(Told()[2], "Cannot find Flight Simulator path! PMDG file is written into: " + fallback.string());
+  EXPECT_EQ(Told()[4],
+            "Cannot find Flight Simulator path! LevelD file is written into: " + fallback.string());
+  EXPECT_TRUE(Told()[5].starts_with("The file for LevelD could not be saved.")) << "PMDG's has its name";
+  EXPECT_EQ(Told()[6], "Cannot find Flight Simulator path!");
+}
+
+TEST_F(SavedPlans, AnAirportWithoutRunwaysStopsTheFormatsThatNeedThem) {
+  flight.plan = {};
+  flight.Begin("EDDF", "EDXX");
+  const PlanSaved saved = Save("trip", 1 << 5 | own);
+  EXPECT_EQ(saved.written, std::vector<fs::path>{plans / "trip.pln"});
+  EXPECT_EQ(Told(),
+            std::vector<std::string>{"No flight plan can be filed for airports without runways (EDXX)"});
 }
 
 TEST_F(SavedPlans, WhatCannotBeWrittenLeavesTheOldFile) {
