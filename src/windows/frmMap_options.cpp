@@ -15,6 +15,7 @@ void frmMap::ShowOptions() {
 void frmMap::OptionsChanged() {
   const Settings& settings = session.settings;
   const bool night = settings.NIGHT != 0;
+  planFolder.clear();  // the plans' folder may be another
   if (night != IsNightStyle()) ApplyStyle(*qApp, night);
   Map->wheelZooms = settings.MZOOM == 1;
   actions["mnuNight"]->setChecked(night);

@@ -115,6 +115,7 @@ void frmMap::ChoosePlan() {
 void frmMap::OpenPlan(const fs::path& file) {
   if (!MayLosePlan()) return;
   if (editor.OpenPlan(file)) TookFile(file);
+  Map->setFocus();
 }
 
 void frmMap::ListRecentPlans() {

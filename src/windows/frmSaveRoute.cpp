@@ -16,7 +16,8 @@
 
 namespace {
 
-constexpr int hintWidth = 270;
+constexpr int hintWidth = 270;  // pixels
+constexpr int hintIndent = 22;
 constexpr int firstModernBox = 12;
 constexpr std::uintmax_t largestPreview = 4 << 20;  // bytes; a plan of 500 rows has 0.1 of them
 
@@ -203,7 +204,7 @@ frmSaveRoute::FormatBox frmSaveRoute::AddFormat(QWidget* group, const PlanFormat
   box.hint->setObjectName(QString("lblFormat(%1)").arg(format.box));
   box.hint->setProperty("quiet", true);
   box.hint->setFixedWidth(hintWidth);
-  box.hint->setIndent(22);
+  box.hint->setIndent(hintIndent);
   box.hint->setContentsMargins(0, 0, 0, 4);
   group->layout()->addWidget(box.check);
   group->layout()->addWidget(box.hint);
@@ -308,24 +309,32 @@ void frmSaveRoute::ShowFault(const QString& fault) {
 
 void frmSaveRoute::ShowHints() {
   if (mode == Mode::open || flstFPlan == nullptr) return;
+  std::filesystem::path simulator;
+  Trapped("Check frmSaveRoute CheckIfFSPathValid (", [&] {
+    if (CheckIfFSPathValid(session.home, session.strFSPath))
+      simulator = FolderOf(session.home, session.strFSPath);
+  });
   std::map<int, QStringList> hints;
   for (const PlanFormatInfo& format : PlanFormats())
-    hints[format.box] << HintOf(format);
+    hints[format.box] << HintOf(format, simulator);
   for (auto& [number, box] : boxes) {
     const QStringList& lines = hints[number];
     box.hint->setToolTip(lines.join('\n'));
-    box.hint->setText(
-        box.hint->fontMetrics().elidedText(lines.first(), Qt::ElideMiddle, hintWidth - box.hint->indent()));
+    box.hint->setText(Shortened(lines.first(), box.hint->fontMetrics()));
     box.check->setToolTip(box.hint->toolTip());
   }
 }
 
+// As much of a path as fits below its box: without the application folder, else without its middle.
+QString frmSaveRoute::Shortened(const QString& path, const QFontMetrics& font) const {
+  const QString home = Utf16(session.home.Root().string()) + "/";
+  const QString text = path.startsWith(home) ? path.mid(home.size()) : path;
+  return font.elidedText(text, Qt::ElideMiddle, hintWidth - hintIndent);
+}
+
 // Where the format's file will go.
-QString frmSaveRoute::HintOf(const PlanFormatInfo& format) const {
-  const bool valid = CheckIfFSPathValid(session.home, session.strFSPath);
-  const FormatPlace place = PlaceOf(
-      format, session.home, session.settings,
-      valid ? FolderOf(session.home, session.strFSPath) : std::filesystem::path(), flstFPlan->Folder());
+QString frmSaveRoute::HintOf(const PlanFormatInfo& format, const std::filesystem::path& simulator) const {
+  const FormatPlace place = PlaceOf(format, session.home, session.settings, simulator, flstFPlan->Folder());
   if (place.folder.empty()) return tr("the simulator's folder is not known");
   const FlightPlan& plan = session.plan;
   const std::string base = PlanBaseName(txtFileName->text().toStdString());

@@ -64,7 +64,8 @@ class frmSaveRoute : public QDialog {
   void ShowDirChange();
   void ShowPicked();
   void ShowHints();
-  QString HintOf(const PlanFormatInfo& format) const;
+  QString Shortened(const QString& path, const QFontMetrics& font) const;
+  QString HintOf(const PlanFormatInfo& format, const std::filesystem::path& simulator) const;
   void ShowFault(const QString& fault);
   void FilePicked();
 

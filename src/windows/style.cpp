@@ -107,8 +107,8 @@ QLabel[plate="true"] { background: rgba(17, 22, 32, 232); border: 1px solid #334
 QListWidget, QTreeWidget { background: #0f141c; border: 1px solid #232c3a; border-radius: 5px; outline: none; }
 QListWidget::item { padding: 4px 8px; border: none; }
 QTreeWidget::item { padding: 3px 6px; border: none; }
-QListWidget::item:selected { background: #1f3a5e; color: #ffffff; }
-QListWidget:focus { border-color: #4084d6; }
+QListWidget::item:selected, QTreeWidget::item:selected { background: #1f3a5e; color: #ffffff; }
+QListWidget:focus, QTreeWidget:focus { border-color: #4084d6; }
 QGroupBox { border: none; margin-top: 18px; font-size: 15px; font-weight: 600; }
 QGroupBox::title { subcontrol-origin: margin; left: 0; color: #f1f5fa; }
 QTableView { border: none; background: #0f141c; alternate-background-color: #121822; gridline-color: #1d2531; outline: none; }
