@@ -82,6 +82,7 @@ void frmPrintFP::BuildChoices(QVBoxLayout* left) {
     box->setObjectName(choice.name);
     box->setChecked(memory.choices.*choice.flag);
     if (choice.flag == &PrintChoices::procedures && !hasProcedures) {
+      box->setChecked(false);
       box->setEnabled(false);
       box->setToolTip(tr("The plan has no departure and no arrival route."));
     }
@@ -145,16 +146,16 @@ std::vector<SidStarEntry> frmPrintFP::Procedures(ProcedureKind kind) const {
 
 void frmPrintFP::TakeChoices() {
   for (std::size_t i = 0; i < choiceList.size(); ++i)
-    memory.choices.*choiceList[i].flag = boxes[i]->isChecked();
+    if (boxes[i]->isEnabled()) memory.choices.*choiceList[i].flag = boxes[i]->isChecked();
   memory.paper = cmbPaper->currentText();
   ShowPages();
 }
 
 void frmPrintFP::ShowPages() {
   Trapped("frmPrintFP ShowPages (", [&] {
-    PrintChoices choices = memory.choices;
+    PrintChoices choices;
     for (std::size_t i = 0; i < choiceList.size(); ++i)
-      if (!boxes[i]->isEnabled()) choices.*choiceList[i].flag = false;
+      choices.*choiceList[i].flag = boxes[i]->isChecked();
     printed = BuildPrintedPlan(
         {session.plan, editor.Context(), session.settings, editor.RouteText(), departures, arrivals},
         choices);

@@ -176,7 +176,8 @@ TEST_F(PrintWindow, NeedsAPlan) {
 TEST_F(PrintWindow, PrintsTheChosenPagesAndRemembersThem) {
   Open().Editor().StartPlan(0, 1);
   WithPrintWindow([&](frmPrintFP& dialog) {
-    EXPECT_FALSE(dialog.findChild<QCheckBox*>("chckDepArr")->isEnabled()) << "the plan has none";
+    const auto* procedures = dialog.findChild<QCheckBox*>("chckDepArr");
+    EXPECT_FALSE(procedures->isEnabled() || procedures->isChecked()) << "the plan has none";
     EXPECT_EQ(Pages(dialog), 3);
     Check(dialog, "chckCtrz");
     Check(dialog, "chckMap");
@@ -205,6 +206,11 @@ TEST_F(PrintWindow, PrintsTheChosenPagesAndRemembersThem) {
     EXPECT_TRUE(dialog.findChild<QCheckBox*>("chckWPList")->isChecked());
     EXPECT_EQ(dialog.findChild<QComboBox*>("cmbPaper")->currentText(), "A5");
     EXPECT_EQ(Pages(dialog), 1);
+  });
+  session.plan.SidName = "TEST1A";
+  WithPrintWindow([&](frmPrintFP& dialog) {
+    EXPECT_TRUE(dialog.findChild<QCheckBox*>("chckDepArr")->isChecked()) << "it is still wanted";
+    EXPECT_EQ(Pages(dialog), 2);
   });
 }
 
