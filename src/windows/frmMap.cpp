@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -79,6 +80,11 @@ frmMap::frmMap(Session& session, MessageBox& messages, PointerShape& pointer)
   connect(panel, &pnlFlightplan::WaypointPicked, &editor, &PlanEditor::InsertAfterSelection);
   connect(&editor, &PlanEditor::Changed, this, &frmMap::PlanChanged);
   connect(&editor, &PlanEditor::Started, this, &frmMap::ShowNewPlan);
+  askImportFile = [this](const QString& folder) {
+    return QFileDialog::getOpenFileName(
+        this, tr("Import plan"), folder,
+        tr("Flight plans of other programs (*.pln *.fms *.fgfp *.xml *.fpl *.gpx *.sfp);;All files (*)"));
+  };
   showSaveRoute = [](frmSaveRoute& dialog) { return dialog.exec() == QDialog::Accepted; };
   tmrUnsaved.setSingleShot(true);
   connect(&tmrUnsaved, &QTimer::timeout, this, [this] { KeepUnsavedPlan(); });

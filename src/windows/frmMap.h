@@ -61,6 +61,9 @@ class frmMap : public QMainWindow {
   void Begin(const std::filesystem::path& plan, bool selectAirports);
   // Shows the window that opens and saves plans; true on OK. Its exec(), unless replaced.
   std::function<bool(frmSaveRoute&)> showSaveRoute;
+  // Asks for the file of another program's plan, beginning in a folder; empty: none. The file dialog,
+  // unless replaced.
+  std::function<QString(const QString& folder)> askImportFile;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
@@ -191,6 +194,11 @@ class frmMap : public QMainWindow {
   void ClearPlan();
   void ChoosePlan();
   void OpenPlan(const std::filesystem::path& file);
+  // The one plan file among what is dragged, ours or another program's; empty: there is none, or more.
+  static QString DraggedPlan(const class QMimeData& dragged);
+  // Opens a plan of ours, imports one of another program.
+  void TakePlanFile(const std::filesystem::path& file);
+  void ChooseImport();
   void ListRecentPlans();
   void OpenRecent(const std::filesystem::path& file);
   void TookFile(const std::filesystem::path& file);

@@ -100,6 +100,8 @@ void frmMap::BuildPlanMenu() {
   recentMenu->setObjectName("mnuRecent");
   connect(plan, &QMenu::aboutToShow, this, &frmMap::ListRecentPlans);
   plan->addAction(AddCommand(
+      "mnuImport", tr("I&mport plan..."), [this] { ChooseImport(); }, "Ctrl+Alt+O"));
+  plan->addAction(AddCommand(
       "mnuPrintPlan", tr("Print the fli&ght plan..."), [this] { PrintPlan(); }, "Ctrl+P"));
   plan->addAction(AddCommand(
       "mnuSaveFP", tr("&Save"), [this] { SavePlan(); }, "Ctrl+S"));

@@ -5,7 +5,6 @@
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QUrl>
 
 #include "base/files.h"
 #include "flightplan/plan_file.h"
@@ -22,14 +21,6 @@ namespace {
 constexpr std::string_view unsavedPlanName = "\\user\\unsaved.pln";
 constexpr std::string_view unreadablePlanName = "\\user\\unsaved.old";
 constexpr int unsavedDelay = 3000;  // ms between a change and its copy on the disk
-
-// The one plan file among what is dragged; empty: there is none, or more.
-QString DraggedPlan(const QMimeData& dragged) {
-  const QList<QUrl> urls = dragged.urls();
-  if (urls.size() != 1) return {};
-  const QString path = urls.first().toLocalFile();
-  return path.endsWith(".pln", Qt::CaseInsensitive) ? path : QString();
-}
 
 QString Utf16(const std::string& utf8) {
   return QString::fromStdString(utf8);
@@ -156,7 +147,7 @@ void frmMap::dropEvent(QDropEvent* event) {
   const QString path = DraggedPlan(*event->mimeData());
   if (path.isEmpty()) return;
   event->acceptProposedAction();
-  OpenPlan(path.toStdString());
+  TakePlanFile(path.toStdString());
 }
 
 // ---- against loss

@@ -3,6 +3,7 @@
 #include "base/error_trap.h"
 #include "base/files.h"
 #include "flightplan/cruise_level.h"
+#include "flightplan/formats/plan_import.h"
 #include "flightplan/plan_drag.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_reader.h"
@@ -20,12 +21,9 @@ PlanContext PlanEditor::Context() const {
 }
 
 PlanSaving PlanEditor::Saving() const {
-  return {session.plan,
-          Context(),
-          session.home,
-          session.settings,
-          session.strFSPath,
-          std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()),
+  return {session.plan,         Context(),
+          session.home,         session.settings,
+          session.strFSPath,    std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()),
           session.strAiracCycle};
 }
 
@@ -124,6 +122,29 @@ bool PlanEditor::OpenPlan(const std::filesystem::path& file) {
   });
   if (opened) Q_EMIT Started();
   return opened;
+}
+
+bool PlanEditor::ImportPlan(const std::filesystem::path& file) {
+  std::string reason;
+  const std::optional<FileBytes> bytes = ReadWholeFile(file, &reason);
+  if (!bytes) {
+    messages.Show("The flight plan could not be imported.\n\n" + reason, MessageIcon::exclamation);
+    return false;
+  }
+  PlanImport import;
+  Change("frmMap mnuImport (", [&] {
+    import = ::ImportPlan(session.plan, Context(), bytes->Text());
+    for (const std::string& problem : import.problems)
+      report.lines.push_back(file.string() + ": " + problem);
+    if (!import.valid) return;
+    session.navLog = {};
+    fromRouteString = false;
+  });
+  if (!import.valid) return false;
+  Q_EMIT Started();
+  const std::string summary = ImportSummary(import, session.plan);
+  if (!summary.empty()) messages.Show(summary, MessageIcon::none);
+  return true;
 }
 
 void PlanEditor::DeleteEnrouteWPs() {

@@ -63,11 +63,42 @@ TEST_F(PlanFiles, ASavedPlanIsOpenedOrDroppedOnTheWindow) {
   EXPECT_EQ(Codes(), saved);
 }
 
+TEST_F(PlanFiles, APlanOfAnotherProgramIsImportedAndHasNoFileYet) {
+  SaveRoute();
+  session.protocol.Open(session.home);
+  const std::string before = Codes();
+  const std::string saved = folder.Read("plans/saved.pln");
+  const std::string theirs = "I\n3 version\n0\n1\n1 EDDA 0 0 0\n11 NOWHR 0 1 3\n1 EDDB 0 0 10\n";
+  folder.Write("theirs.fms", theirs);
+  window->askImportFile = [&](const QString&) {
+    return QString::fromStdString((folder.Path() / "theirs.fms").string());
+  };
+  Trigger("mnuImport");
+  EXPECT_EQ(Codes(), "EDDA NOWHR EDDB");
+  ASSERT_EQ(messages.texts.size(), 1U);
+  EXPECT_NE(messages.texts[0].find("NOWHR is not in the database"), std::string::npos);
+  EXPECT_NE(folder.Read("VLM_Protocol.log").find("NOWHR is not in the database"), std::string::npos);
+  EXPECT_EQ(Title(), "Velmora 8.6[*]");
+  Trigger("mnuSaveFP");
+  EXPECT_EQ(folder.Read("plans/saved.pln"), saved) << "the plan that was there before is not written over";
+  EXPECT_EQ(folder.Read("theirs.fms"), theirs);
+  Trigger("mnuUndo");
+  EXPECT_EQ(Codes(), before);
+  messages.answer = false;
+  Drop(folder.Path() / "theirs.fms");
+  EXPECT_EQ(Codes(), "EDDA NOWHR EDDB");
+  window->askImportFile = [&](const QString&) { return QString::fromStdString(file.string()); };
+  Trigger("mnuImport");
+  EXPECT_EQ(Codes(), before) << "a plan of ours is opened";
+  EXPECT_EQ(Title(), "Velmora 8.6 <saved>[*]");
+  EXPECT_EQ(pointer.depth, 0);
+}
+
 TEST_F(PlanFiles, AFileThatIsNoPlanLeavesThePlan) {
   Open().Editor().StartPlan(0, 1);
   folder.Write("other.pln", "[Flightplan]\r\ntype=IFR\r\n");
   Drop(folder.Path() / "other.pln");
-  EXPECT_EQ(messages.texts.back(), " Sorry! This is not a valid VLM flight plan!");
+  EXPECT_EQ(messages.texts.back(), "This file is no flight plan of a kind that can be imported!");
   Drop("/nowhere/at/all.pln");
   EXPECT_TRUE(messages.texts.back().starts_with("The flight plan could not be opened."));
   EXPECT_EQ(Codes(), "EDDA EDDB");

@@ -177,10 +177,8 @@ PointMatch MatchByPlace(const NavDatabase& database, const ForeignPoint& point) 
       Search(database, PlainCode(point.code), [&](Position at) { return Between(place, at); });
   const Best best = found.Choose(point.kind, sameObjectDistance);
   if (best.row && best.score <= sameObjectDistance) return {best.row, {}};
-  const std::string where =
-      best.row ? " lies " + WholeNM(best.score) + " away; " : " is not in the database; ";
-  return {PositionRow(database, point, place),
-          point.code + where + PlaceText(place) + " is taken as a position"};
+  const std::string why = best.row ? " lies " + WholeNM(best.score) + " away" : " is not in the database";
+  return {PositionRow(database, point, place), point.code + why + ": position " + PlaceText(place)};
 }
 
 // Fixes of one name all over the world are told apart by their region, else by the way.
