@@ -158,7 +158,8 @@ void frmMap::KeepUnsavedPlan() {
     const fs::path copy = session.home.Resolve(unsavedPlanName);
     std::error_code error;
     if (!planFile.Modified(session.plan, session.database)) {
-      fs::remove(copy, error);
+      // Without a plan the copy may be the last session's, about which the pilot is being asked.
+      if (session.plan.RowCount() > 0) fs::remove(copy, error);
       return;
     }
     fs::create_directories(copy.parent_path(), error);

@@ -179,7 +179,9 @@ TEST_F(PlanFiles, AfterACrashThePlanIsOffered) {
   window.reset();  // no closeEvent: as if the machine had failed
   session.plan = {};
 
-  Open().Begin({}, false);
+  Open();
+  QTest::qWait(4000);  // the pilot takes his time
+  window->Begin({}, false);
   ASSERT_EQ(messages.texts.size(), 1u);
   EXPECT_EQ(messages.texts[0], unsavedPlanText);
   EXPECT_EQ(Codes(), lost);
