@@ -50,8 +50,7 @@ TextReader TextReaderFor(std::string_view text) {
 }
 
 bool LooksLikeXml(std::string_view text) {
-  const std::size_t first = text.find('<');
-  return first != std::string_view::npos && first < 8;  // behind a byte order mark
+  return text.find('<') < 8;  // behind a byte order mark
 }
 
 std::optional<ForeignPlan> ReadXml(std::string_view text) {

@@ -30,8 +30,8 @@ std::string CycleOfDay(std::chrono::sys_days day) {
   const sys_days begin = firstOf2020 + days{sinceFirst / cycleDays * cycleDays};
   const year_month_day date{begin};
   const int dayOfYear = static_cast<int>((begin - sys_days{date.year() / 1 / 1}).count());
-  return FormatPicture(static_cast<int>(date.year()) % 100, "00") +
-         FormatPicture(dayOfYear / cycleDays + 1, "00");
+  const int number = dayOfYear / cycleDays + 1;
+  return FormatPicture(static_cast<int>(date.year()) % 100, "00") + FormatPicture(number, "00");
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ std::string Signed(double value, const char* picture) {
 
 // One word: a position without a name is called by its degrees.
 std::string IdentOf(const PlanWaypoint& row) {
-  const std::string code = CodeOf(row);
+  std::string code = CodeOf(row);
   const bool oneWord = code.find(' ') == std::string::npos;
   if (oneWord && !code.empty() && !IsNamelessPosition(code)) return code;
   return Signed(row.Lat, "00.000") + "_" + Signed(row.Lon, "000.000");
