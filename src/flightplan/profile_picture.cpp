@@ -14,15 +14,12 @@ constexpr std::int32_t Rgb(int red, int green, int blue) {
   return red | green << 8 | blue << 16;
 }
 
-constexpr std::int32_t groundColor = Rgb(13, 17, 24);
-constexpr std::int32_t gridColor = Rgb(32, 41, 55);
-constexpr std::int32_t quietColor = Rgb(140, 152, 170);
-constexpr std::int32_t textColor = Rgb(223, 229, 238);
-constexpr std::int32_t lineColor = Rgb(110, 170, 240);
-constexpr std::int32_t sidColor = Rgb(96, 190, 170);
-constexpr std::int32_t starColor = Rgb(180, 150, 230);
-constexpr std::int32_t minimumColor = Rgb(112, 124, 142);
-constexpr std::int32_t faultColor = Rgb(240, 138, 124);
+constexpr ProfileColors nightProfile{Rgb(13, 17, 24),    Rgb(32, 41, 55),    Rgb(140, 152, 170),
+                                     Rgb(223, 229, 238), Rgb(110, 170, 240), Rgb(96, 190, 170),
+                                     Rgb(180, 150, 230), Rgb(112, 124, 142), Rgb(240, 138, 124)};
+constexpr ProfileColors dayProfile{Rgb(255, 255, 255), Rgb(222, 228, 235), Rgb(95, 107, 122),
+                                   Rgb(28, 35, 44),    Rgb(43, 101, 171),  Rgb(14, 124, 102),
+                                   Rgb(108, 70, 168),  Rgb(122, 133, 148), Rgb(179, 38, 30)};
 
 // Pixels around the plot, and of what is drawn in it.
 constexpr float leftMargin = 58;
@@ -72,8 +69,8 @@ void PrintAt(DrawSurface& surface, float x, float y, std::string_view text, std:
 class ProfilePicture {
  public:
   ProfilePicture(const FlightProfile& profile, const FlightPlan& plan, const ProfileScale& scale,
-                 DrawSurface& surface)
-      : profile(profile), plan(plan), scale(scale), surface(surface) {}
+                 const ProfileColors& colors, DrawSurface& surface)
+      : profile(profile), plan(plan), scale(scale), colors(colors), surface(surface) {}
 
   void DrawGround() {
     const PictureFrame& frame = scale.Frame();
@@ -81,14 +78,14 @@ class ProfilePicture {
            {frame.left + frame.width, frame.top},
            {frame.left + frame.width, frame.top + frame.height},
            {frame.left, frame.top + frame.height}}},
-         groundColor, 1);
+         colors.ground, 1);
   }
 
   void DrawNote() {
     if (profile.note.empty()) return;
     const float x = scale.Right() - surface.TextWidth(profile.note);
     if (Span{x, scale.Right()}.Meets(plate)) return;
-    PrintAt(surface, x, scale.Frame().top + scale.Pixels(textGap), profile.note, quietColor);
+    PrintAt(surface, x, scale.Frame().top + scale.Pixels(textGap), profile.note, colors.quiet);
   }
 
   void DrawGrid() {
@@ -97,10 +94,10 @@ class ProfilePicture {
     for (double feet = 0; feet <= scale.HighestAltitude(); feet += step) {
       const float y = scale.YOf(feet);
       if (y > scale.Bottom()) continue;
-      surface.Line(scale.Left(), y, scale.Right(), y, gridColor);
+      surface.Line(scale.Left(), y, scale.Right(), y, colors.grid);
       const std::string text = AltitudeText(feet);
       PrintAt(surface, scale.Left() - scale.Pixels(textGap) - surface.TextWidth(text), y - half, text,
-              quietColor);
+              colors.quiet);
     }
   }
 
@@ -108,8 +105,8 @@ class ProfilePicture {
   void DrawProcedures() {
     const int sids = plan.SidRows();
     const int stars = plan.StarRows();
-    if (sids > 0) DrawBand(0, RowDistance(sids), sidColor);
-    if (stars > 0) DrawBand(RowDistance(plan.DestinationRow() - stars), profile.Length(), starColor);
+    if (sids > 0) DrawBand(0, RowDistance(sids), colors.sid);
+    if (stars > 0) DrawBand(RowDistance(plan.DestinationRow() - stars), profile.Length(), colors.star);
   }
 
   // A step line: quiet where the level is above it.
@@ -121,7 +118,7 @@ class ProfilePicture {
       surface.DrawWidth = fault ? 1.8F : 1.2F;
       const float y = scale.YOf(minimum);
       surface.Line(scale.XOf(RowDistance(row - 1)), y, scale.XOf(RowDistance(row)), y,
-                   fault ? faultColor : minimumColor);
+                   fault ? colors.fault : colors.minimum);
     }
     surface.DrawWidth = 1;
   }
@@ -134,10 +131,10 @@ class ProfilePicture {
     area.push_back({scale.Right(), scale.Bottom()});
     area.push_back({scale.Left(), scale.Bottom()});
     surface.Opacity = 0.13F;
-    surface.Polygon(area, lineColor);
+    surface.Polygon(area, colors.line);
     surface.Opacity = 1;
     surface.DrawWidth = 2;
-    surface.Polyline(line, lineColor);
+    surface.Polyline(line, colors.line);
     surface.DrawWidth = 1;
   }
 
@@ -145,7 +142,7 @@ class ProfilePicture {
   void DrawWaypoints() {
     for (int row = 0; row < plan.RowCount(); ++row) {
       const double distance = RowDistance(row);
-      Disc({scale.XOf(distance), scale.YOf(PointAt(profile, distance).altitude)}, dotRadius, textColor);
+      Disc({scale.XOf(distance), scale.YOf(PointAt(profile, distance).altitude)}, dotRadius, colors.text);
     }
     std::vector<Span> taken;
     PrintCode(0, taken);
@@ -194,14 +191,14 @@ class ProfilePicture {
   void DrawMark(double distance) {
     const float x = scale.XOf(distance);
     surface.Opacity = 0.6F;
-    surface.Line(x, scale.Top(), x, scale.Bottom(), textColor);
+    surface.Line(x, scale.Top(), x, scale.Bottom(), colors.text);
     surface.Opacity = 1;
-    Disc({x, scale.YOf(PointAt(profile, distance).altitude)}, markRadius, textColor);
+    Disc({x, scale.YOf(PointAt(profile, distance).altitude)}, markRadius, colors.text);
     const float top = scale.Frame().top + scale.Pixels(2);
     const float bottom = top + surface.TextHeight(markText) + scale.Pixels(4);
-    Fill({{{plate.left, top}, {plate.right, top}, {plate.right, bottom}, {plate.left, bottom}}}, gridColor,
+    Fill({{{plate.left, top}, {plate.right, top}, {plate.right, bottom}, {plate.left, bottom}}}, colors.grid,
          0.96F);
-    PrintAt(surface, plate.left + scale.Pixels(textGap), top + scale.Pixels(2), markText, textColor);
+    PrintAt(surface, plate.left + scale.Pixels(textGap), top + scale.Pixels(2), markText, colors.text);
   }
 
  private:
@@ -243,15 +240,15 @@ class ProfilePicture {
     const Span span{left - scale.Pixels(textGap), left + width + scale.Pixels(textGap)};
     if (std::any_of(taken.begin(), taken.end(), [&](const Span& other) { return span.Meets(other); })) return;
     taken.push_back({left, left + width});
-    surface.Line(x, scale.Bottom(), x, scale.Bottom() + scale.Pixels(3), quietColor);
+    surface.Line(x, scale.Bottom(), x, scale.Bottom() + scale.Pixels(3), colors.quiet);
     const bool airport = row == 0 || row == plan.DestinationRow();
-    PrintAt(surface, left, scale.Bottom() + scale.Pixels(4), code, airport ? textColor : quietColor);
+    PrintAt(surface, left, scale.Bottom() + scale.Pixels(4), code, airport ? colors.text : colors.quiet);
   }
 
   void DrawTick(const ProfilePoint& top) {
     const float x = scale.XOf(top.distance);
     const float y = scale.YOf(top.altitude);
-    surface.Line(x, y - scale.Pixels(topTick), x, y + scale.Pixels(topTick), textColor);
+    surface.Line(x, y - scale.Pixels(topTick), x, y + scale.Pixels(topTick), colors.text);
   }
 
   // The name bold, its figures quiet behind it.
@@ -269,9 +266,9 @@ class ProfilePicture {
     const float behind = x + NameWidth(name);
     if (Span{x, behind + surface.TextWidth(text)}.Meets(plate)) return;
     surface.FontBold = true;
-    PrintAt(surface, x, y, name, textColor);
+    PrintAt(surface, x, y, name, colors.text);
     surface.FontBold = false;
-    PrintAt(surface, behind, y, text, quietColor);
+    PrintAt(surface, behind, y, text, colors.quiet);
   }
 
   // Climb and descent meet: one mark, left of the note.
@@ -288,6 +285,7 @@ class ProfilePicture {
   const FlightProfile& profile;
   const FlightPlan& plan;
   const ProfileScale& scale;
+  const ProfileColors& colors;
   DrawSurface& surface;
   Span plate;  // of the mark's text; empty without a mark
   std::string markText;
@@ -336,12 +334,16 @@ std::string MarkText(const ProfilePoint& point) {
          TimeText(point.minutes);
 }
 
+const ProfileColors& ProfileColorsOf(bool night) {
+  return night ? nightProfile : dayProfile;
+}
+
 void DrawProfile(const FlightProfile& profile, const FlightPlan& plan, const ProfileScale& scale,
-                 std::optional<double> marked, DrawSurface& surface) {
+                 std::optional<double> marked, DrawSurface& surface, const ProfileColors& colors) {
   const StyleKeeper keeper(surface);
   surface.ResetStyle();
   surface.FontSize = textPoints;
-  ProfilePicture picture(profile, plan, scale, surface);
+  ProfilePicture picture(profile, plan, scale, colors, surface);
   if (marked && !profile.points.empty()) picture.PlaceMark(*marked);
   picture.DrawGround();
   picture.DrawNote();

@@ -45,6 +45,12 @@ class ProfileScale {
   double highest;
 };
 
+// 24-bit values with red in the low byte.
+struct ProfileColors {
+  std::int32_t ground = 0, grid = 0, quiet = 0, text = 0, line = 0, sid = 0, star = 0, minimum = 0, fault = 0;
+};
+const ProfileColors& ProfileColorsOf(bool night);
+
 // A leg's lowest altitude on its airway in feet; 0: none is known.
 std::int32_t LegMinimum(const PlanWaypoint& row);
 
@@ -52,7 +58,8 @@ std::int32_t LegMinimum(const PlanWaypoint& row);
 // distance that the pilot points at. Without points only the profile's note is
 // written. The surface's style is left as it was found.
 void DrawProfile(const FlightProfile& profile, const FlightPlan& plan, const ProfileScale& scale,
-                 std::optional<double> marked, DrawSurface& surface);
+                 std::optional<double> marked, DrawSurface& surface,
+                 const ProfileColors& colors = ProfileColorsOf(true));
 
 // What is told of a place on the flight, UTF-8: "412 NM   FL 350   01:02".
 std::string MarkText(const ProfilePoint& point);

@@ -279,9 +279,12 @@ void frmOptions::ShowFirstRefusal() {
   }
 }
 
+// The set of colours stays the one that is looked at.
 void frmOptions::Restore(bool all) {
-  for (OptionRow* row : rows)
-    if ((all || IsShown(*row)) && !row->IsDefault()) row->Restore();
+  for (OptionRow* row : rows) {
+    const bool meant = (all || IsShown(*row)) && row->Subject().key != setKey;
+    if (meant && !row->IsDefault()) row->Restore();
+  }
 }
 
 bool frmOptions::Apply() {

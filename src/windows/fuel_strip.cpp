@@ -4,6 +4,8 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "windows/style.h"
+
 namespace {
 
 constexpr int stripHeight = 16;
@@ -38,7 +40,7 @@ void FuelStrip::paintEvent(QPaintEvent*) {
   QPainterPath shape;
   shape.addRoundedRect(QRectF(rect()), stripHeight / 3.0, stripHeight / 3.0);
   painter.setClipPath(shape);
-  painter.fillRect(rect(), QColor::fromRgb(qRgb(28, 36, 49)));
+  painter.fillRect(rect(), QColor::fromRgb(IsNightStyle() ? qRgb(28, 36, 49) : qRgb(228, 233, 240)));
   double x = 0;
   for (int i = 0; i < partCount && sum > 0; ++i) {
     const double length = std::max(parts[static_cast<std::size_t>(i)], 0.0) / sum * (width() + gap);

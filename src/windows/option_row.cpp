@@ -22,6 +22,7 @@ constexpr int fieldWidth = 330;
 constexpr int numberWidth = 110;
 constexpr int choiceWidth = 250;
 constexpr int colorWidth = 120;
+constexpr int restoreWidth = 86;
 
 QString Utf16(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -70,68 +71,68 @@ OptionRow::OptionRow(const Option& option, bool developer, QWidget* parent)
   grid->setHorizontalSpacing(12);
   grid->setVerticalSpacing(3);
   grid->setColumnStretch(0, 1);
-  auto* label = new QLabel(Utf16(option.label), this);
-  label->setWordWrap(true);
-  grid->addWidget(label, 0, 0);
-  if (!option.sentence.empty()) {
-    auto* sentence = new QLabel(Utf16(option.sentence), this);
-    sentence->setProperty("quiet", true);
-    sentence->setWordWrap(true);
-    grid->addWidget(sentence, 1, 0, 2, 1, Qt::AlignTop);
-  }
   field = BuildField();
   field->setObjectName(option.control.empty() ? Name("opt_") : Utf16(option.control));
   field->setAccessibleName(Utf16(option.label));
   field->setAccessibleDescription(Utf16(option.sentence));
+  BuildWords(grid);
+  BuildControls(grid);
+}
+
+void OptionRow::BuildWords(QGridLayout* grid) {
+  auto* label = new QLabel(Utf16(option.label), this);
+  label->setWordWrap(true);
   label->setBuddy(field);
-  auto* controls = new QHBoxLayout;
+  grid->addWidget(label, 0, 0);
+  if (option.sentence.empty()) return;
+  auto* sentence = new QLabel(Utf16(option.sentence), this);
+  sentence->setProperty("quiet", true);
+  sentence->setWordWrap(true);
+  grid->addWidget(sentence, 1, 0, Qt::AlignTop);
+}
+
+// The field, what stands beside it, and below it why it is refused.
+void OptionRow::BuildControls(QGridLayout* grid) {
+  auto* right = new QWidget(this);
+  right->setFixedWidth(fieldWidth);
+  auto* controls = new QHBoxLayout(right);
+  controls->setContentsMargins(0, 0, 0, 0);
   controls->setSpacing(6);
   controls->addWidget(field);
   if (!option.unit.empty()) controls->addWidget(new QLabel(Utf16(option.unit), this));
-  if (IsFolder(option)) {
-    cmdBrowse = new QToolButton(this);
-    cmdBrowse->setObjectName(Name("browse_"));
-    cmdBrowse->setText("...");
-    cmdBrowse->setToolTip(tr("Choose the folder"));
-    cmdBrowse->setFocusPolicy(Qt::TabFocus);
-    connect(cmdBrowse, &QToolButton::clicked, this, &OptionRow::Browse);
-    controls->addWidget(cmdBrowse);
-  } else {
+  if (IsFolder(option))
+    controls->addWidget(AddButton("browse_", tr("..."), &OptionRow::Browse));
+  else
     controls->addStretch(1);
-  }
-  auto* right = new QWidget(this);
-  right->setFixedWidth(fieldWidth);
-  right->setLayout(controls);
-  controls->setContentsMargins(0, 0, 0, 0);
   grid->addWidget(right, 0, 1);
-  cmdRestore = new QToolButton(this);
-  cmdRestore->setObjectName(Name("restore_"));
+  cmdRestore = AddButton("restore_", {}, &OptionRow::Restore);
   cmdRestore->setProperty("restore", true);
-  cmdRestore->setFixedWidth(86);
-  cmdRestore->setFocusPolicy(Qt::TabFocus);
-  connect(cmdRestore, &QToolButton::clicked, this, &OptionRow::Restore);
+  cmdRestore->setFixedWidth(restoreWidth);
   grid->addWidget(cmdRestore, 0, 2);
   lblRefusal = new QLabel(this);
   lblRefusal->setObjectName(Name("refusal_"));
+  lblRefusal->setProperty("fault", true);
   lblRefusal->setWordWrap(true);
   lblRefusal->setFixedWidth(fieldWidth);
   lblRefusal->hide();
   grid->addWidget(lblRefusal, 1, 1, Qt::AlignTop);
-  if (option.kind == OptionKind::folder) BuildFolderButtons(grid);
+  if (option.kind != OptionKind::folder) return;
+  cmdCreate = AddButton("create_", tr("Create it"), &OptionRow::CreateFolder);
+  cmdCreate->hide();
+  grid->addWidget(cmdCreate, 1, 2, Qt::AlignTop);
+}
+
+QToolButton* OptionRow::AddButton(const char* head, const QString& caption, void (OptionRow::*command)()) {
+  auto* button = new QToolButton(this);
+  button->setObjectName(Name(head));
+  button->setText(caption);
+  button->setFocusPolicy(Qt::TabFocus);
+  connect(button, &QToolButton::clicked, this, command);
+  return button;
 }
 
 QString OptionRow::Name(const char* head) const {
   return head + Utf16(option.key);
-}
-
-void OptionRow::BuildFolderButtons(QGridLayout* grid) {
-  cmdCreate = new QToolButton(this);
-  cmdCreate->setObjectName(Name("create_"));
-  cmdCreate->setText(tr("Create it"));
-  cmdCreate->setFocusPolicy(Qt::TabFocus);
-  cmdCreate->hide();
-  connect(cmdCreate, &QToolButton::clicked, this, &OptionRow::CreateFolder);
-  grid->addWidget(cmdCreate, 1, 2, Qt::AlignTop);
 }
 
 QWidget* OptionRow::BuildField() {
@@ -267,7 +268,6 @@ void OptionRow::ShowState() {
   if (cmdCreate != nullptr) cmdCreate->setVisible(missing);
   lblRefusal->setText(Utf16(refusal.empty() ? hint : refusal));
   lblRefusal->setVisible(!lblRefusal->text().isEmpty());
-  lblRefusal->setProperty("fault", true);
   SetFault(!refusal.empty());
   if (auto* button = qobject_cast<QPushButton*>(field)) {
     button->setIcon(Swatch(QColor(Utf16(text))));

@@ -57,7 +57,9 @@ class OptionRow : public QFrame {
   QWidget* BuildChoice();
   QWidget* BuildColor();
   QWidget* BuildEdit();
-  void BuildFolderButtons(QGridLayout* grid);
+  void BuildWords(QGridLayout* grid);
+  void BuildControls(QGridLayout* grid);
+  QToolButton* AddButton(const char* head, const QString& caption, void (OptionRow::*command)());
   void Take(const QString& value);
   void ShowText();
   void ShowState();
@@ -75,5 +77,4 @@ class OptionRow : public QFrame {
   QLabel* lblRefusal;
   QToolButton* cmdRestore;
   QToolButton* cmdCreate = nullptr;
-  QToolButton* cmdBrowse = nullptr;
 };

@@ -48,7 +48,7 @@ ProfileScale ProfileStrip::Scale() const {
 void ProfileStrip::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   QtPainterSurface surface(painter, PagePlacement(width(), height()));
-  DrawProfile(profile, plan, Scale(), marked, surface);
+  DrawProfile(profile, plan, Scale(), marked, surface, ProfileColorsOf(IsNightStyle()));
   painter.setOpacity(1);
   if (!hasFocus()) return;
   painter.setPen(QPen(FocusColor(), 1));

@@ -186,6 +186,14 @@ TEST_F(OptionsWindow, DefaultsComeBackByFieldPageAndAll) {
     EXPECT_EQ(options.Row("MMCOUNTERSET").Text(), "10");
   });
   EXPECT_EQ(session.settings.SECLEN, 60);  // cancelled
+  UseColorSet(session.settings, false);
+  session.settings.colors.LAND = 0;
+  InOptions([&](frmOptions& options) {
+    ShowPage(options, OptionGroup::groundColors);
+    Click(options, "cmdRestorePage");
+    EXPECT_EQ(options.Row("NIGHT").Text(), "0");
+    EXPECT_EQ(session.settings.colors.LAND, dayColors.LAND);
+  });
 }
 
 TEST_F(OptionsWindow, OptionsAreFoundByTheirWords) {
