@@ -104,6 +104,7 @@ void frmOptions::BuildRows(QWidget* content) {
     while (group < static_cast<int>(option.group)) {
       auto* heading = new QLabel(Utf16(GroupCaption(static_cast<OptionGroup>(++group))), content);
       heading->setProperty("heading", true);
+      heading->setIndent(0);
       column->addWidget(heading);
       headings.push_back(heading);
     }

@@ -157,6 +157,7 @@ QWidget* OptionRow::BuildFlag() {
 QWidget* OptionRow::BuildChoice() {
   auto* combo = new QComboBox(this);
   combo->setFixedWidth(choiceWidth);
+  combo->setProperty("choice", true);
   for (const OptionChoice& choice : option.choices)
     combo->addItem(Utf16(choice.label), QString::number(choice.value));
   // The wheel is the page's.

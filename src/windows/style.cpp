@@ -88,6 +88,7 @@ QComboBox:focus { border-color: #4084d6; }
 QComboBox:disabled { color: #5c6676; border-color: #262f3c; }
 QComboBox QLineEdit { background: transparent; border: none; padding: 0; }
 QComboBox::drop-down { border: none; width: 22px; }
+QComboBox[choice="true"]::down-arrow { image: url(:/icons/chevron.svg); width: 12px; height: 12px; }
 QComboBox QAbstractItemView { background: #19202c; border: 1px solid #2c3748; selection-background-color: #2b5c99; outline: none; }
 QAbstractItemView#lstDepMatches { background: #19202c; border: 1px solid #2c3748; padding: 3px; selection-background-color: #2b5c99; outline: none; }
 QAbstractItemView#lstDepMatches::item, QComboBox QAbstractItemView::item { padding: 4px 6px; }
