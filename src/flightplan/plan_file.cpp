@@ -1,11 +1,11 @@
 #include "flightplan/plan_file.h"
 
-#include <algorithm>
 #include <stdexcept>
 #include <string_view>
 
 #include "base/code_page.h"
 #include "base/numbers.h"
+#include "flightplan/waypoint_line.h"
 #include "navdata/geodesy.h"
 
 namespace {
@@ -17,13 +17,6 @@ const AirportRec& Airport(const NavDatabase& database, std::int32_t row) {
     throw std::logic_error("the flight plan has no departure or destination");
   }
   return database.airports[static_cast<std::size_t>(row)];
-}
-
-// The fields of a WP= line are told apart by their commas alone.
-std::string WithoutCommas(std::string_view text) {
-  std::string plain(text);
-  std::replace(plain.begin(), plain.end(), ',', ' ');
-  return plain;
 }
 
 std::string SignedAltitude(double feet) {
@@ -73,7 +66,7 @@ class PlanWriter {
     Line("SID=" + Utf8ToCodePage(plan.SidName));
     Line("STAR=" + Utf8ToCodePage(plan.StarName));
     for (int i = 1; i < plan.DestinationRow(); ++i)
-      Line("WP=" + std::to_string(i) + NativeFields(plan.Row(i)));
+      Line("WP=" + std::to_string(i) + "," + WaypointFields(plan.Row(i)));
   }
 
   std::string TakeText() { return std::move(text); }
@@ -95,29 +88,6 @@ class PlanWriter {
     if (row.Sym == "NDB") return "=KK, " + code + ",  , " + code + ", N, " + behind;
     if (row.Sym == "VOR") return "=KK, " + code + ", , " + code + ", V, " + behind;
     return "=KK, " + code + ", , " + code + ",  I, " + behind;
-  }
-
-  static std::string NativeFields(const PlanWaypoint& row) {
-    std::string fields;
-    const auto add = [&fields](std::string_view value) { (fields += ',') += value; };
-    add(WithoutCommas(row.Sym.View()));
-    add(WithoutCommas(row.Code.View()));
-    add(WithoutCommas(row.Name.View()));
-    add(FormatPicture(row.Lat, "##0.0000"));
-    add(FormatPicture(row.Lon, "##0.0000"));
-    add(FormatPicture(row.Freq, "##0.00"));
-    add(FormatPicture(row.Course, "##0.0000"));
-    add(FormatPicture(row.MagVar, "##0.000"));
-    add(std::to_string(static_cast<int>(row.Kind)));
-    add(std::to_string(row.DbIndex));
-    if (row.HasAirway()) {
-      add(WithoutCommas(row.Airway.View()));
-      if (row.AirwayMinAlt >= 0 && row.AirwayMaxAlt > 0) {
-        add(FormatPicture(row.AirwayMinAlt, "00000"));
-        add(FormatPicture(row.AirwayMaxAlt, "00000"));
-      }
-    }
-    return fields;
   }
 
   const FlightPlan& plan;

@@ -13,9 +13,7 @@
 //   ...                              the plan's header
 //   WP=1,Int,TABUM,TABUM,50.2521,8.6405,0.00,17.1234,2.310,1,4711,UL607,18000,46000
 //
-// A WP= line holds number, Sym, Code, Name, Lat, Lon, Freq, Course, MagVar,
-// Kind, DbIndex, and only on an airway its name and, when they are known, its
-// lowest and highest altitude.
+// A WP= line holds the number of the row and its fields (waypoint_line.h).
 #pragma once
 
 #include <string>

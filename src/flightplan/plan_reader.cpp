@@ -6,10 +6,11 @@
 
 #include "base/code_page.h"
 #include "base/numbers.h"
-#include "flightplan/object_rows.h"
+#include "flightplan/object_lookup.h"
 #include "flightplan/plan_legs.h"
 #include "flightplan/plan_rows.h"
 #include "flightplan/start_positions.h"
+#include "flightplan/waypoint_line.h"
 #include "navdata/geodesy.h"
 
 namespace {
@@ -33,62 +34,18 @@ constexpr std::array<std::string_view, 12> readKeys = {
     "type", "alternate_name", "DepartAPCode", "DepartNum", "DepartID",   "DepartType", "DestAPCode",
     "SID",  "STAR",           "DestRwy",      "DestRwyID", "DestRwyHead"};
 
-std::vector<std::string_view> Fields(std::string_view line) {
-  std::vector<std::string_view> fields;
-  for (std::size_t start = 0;;) {
-    const std::size_t comma = line.find(',', start);
-    fields.push_back(Trimmed(line.substr(start, comma - start)));
-    if (comma == std::string_view::npos) return fields;
-    start = comma + 1;
-  }
-}
-
-RowKind KindOf(std::string_view field) {
-  const std::uint8_t kind = ValByte(field);
-  return kind == 2 ? RowKind::star : kind == 3 ? RowKind::sid : RowKind::enroute;
-}
-
-bool IsOnEarth(const PlanWaypoint& row) {
-  return row.Lat >= -90 && row.Lat <= 90 && row.Lon >= -180 && row.Lon <= 180;
-}
-
-// Number, Sym, Code, Name, Lat, Lon, Freq, Course, MagVar, Kind, DbIndex and,
-// on an airway, its name and its limits. Nothing if the row cannot be used.
-std::optional<PlanWaypoint> WaypointOf(const std::vector<std::string_view>& fields) {
-  constexpr std::size_t always = 11;
-  if (fields.size() < always) return std::nullopt;
-  const auto number = [&](std::size_t i) { return static_cast<float>(Val(fields[i])); };
-  PlanWaypoint row;
-  row.Sym = fields[1];
-  row.Code = fields[2];
-  row.Name = fields[3];
-  row.Lat = number(4);
-  row.Lon = number(5);
-  row.Freq = number(6);
-  row.Course = number(7);
-  row.MagVar = number(8);
-  row.Kind = KindOf(fields[9]);
-  row.DbIndex = ValInt32(fields[10]);
-  if (fields.size() > always) row.Airway = fields[always];
-  if (fields.size() > always + 2) {
-    row.AirwayMinAlt = ValInt32(fields[always + 1]);
-    row.AirwayMaxAlt = ValInt32(fields[always + 2]);
-  }
-  if (!IsOnEarth(row)) return std::nullopt;
-  return row;
-}
-
 void Report(std::vector<std::string>& problems, const std::string& problem) {
   if (problems.size() < mostProblems) problems.push_back(problem);
 }
 
-void TakeRow(PlanText& file, std::string_view fields, int line) {
-  const std::vector<std::string_view> values = Fields(fields);
-  const std::int32_t index = ValInt32(values.front());
-  const std::string where = "line " + std::to_string(line) + ": ";
+void TakeRow(PlanText& file, std::string_view line, int lineNumber) {
+  const std::size_t comma = line.find(',');
+  const std::int32_t index = ValInt32(line.substr(0, comma));
+  const std::string where = "line " + std::to_string(lineNumber) + ": ";
   if (index < 1 || index > lastRowInFile)
     return Report(file.problems, where + "the number of the waypoint is not 1 to 500; it is left out");
-  const std::optional<PlanWaypoint> row = WaypointOf(values);
+  const std::string_view fields = comma == std::string_view::npos ? "" : line.substr(comma + 1);
+  const std::optional<PlanWaypoint> row = WaypointOfFields(fields);
   if (!row) return Report(file.problems, where + "the waypoint is not complete; it is left out");
   file.rows[index] = *row;
 }
@@ -117,42 +74,6 @@ PlanText ReadLines(std::string_view text) {
 }
 
 // ---- meeting the database
-
-template <class Row>
-std::int32_t RowNear(const PlanWaypoint& waypoint, const IdentIndex& byIdent, const std::vector<Row>& table) {
-  for (std::int32_t row = byIdent.First(waypoint.Code.View()); row >= 0; row = byIdent.Next(row)) {
-    const Row& object = table[static_cast<std::size_t>(row)];
-    if (CutToInt(object.sngLat) == CutToInt(waypoint.Lat) &&
-        CutToInt(object.sngLon) == CutToInt(waypoint.Lon))
-      return row;
-  }
-  return -1;
-}
-
-bool IsUserFix(const PlanWaypoint& row) {
-  return row.Code.Raw().starts_with("Fix") && row.Name.Raw().starts_with("Fix");
-}
-
-// Finds the row's object in the database. False if it should be there and is not.
-bool FindObject(PlanWaypoint& row, const NavDatabase& database) {
-  std::int32_t found = row.DbIndex;
-  if (row.Sym == "Int") {
-    found = RowNear(row, database.intersectionsByIdent, database.intersections);
-    if (found >= 0)
-      row.Level = ObjectRow(database.intersections[static_cast<std::size_t>(found)], found).Level;
-  } else if (row.Sym == "VOR") {
-    found = RowNear(row, database.vorsByIdent, database.vors);
-  } else if (row.Sym == "NDB") {
-    found = RowNear(row, database.ndbsByIdent, database.ndbs);
-  } else if (row.Sym == "Fix" && !IsUserFix(row)) {
-    found = RowNear(row, database.fixesByIdent, database.fixes);
-  } else {
-    return true;
-  }
-  if (found < 0) return false;
-  row.DbIndex = found;
-  return true;
-}
 
 void ValidatePlan(FlightPlan& plan, const PlanContext& context, std::vector<std::string>& problems) {
   for (int i = 1; i < plan.DestinationRow(); ++i) {

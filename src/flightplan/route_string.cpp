@@ -18,6 +18,10 @@ class RouteWriter {
  private:
   void AddRow(int i) {
     const PlanWaypoint& row = plan.Row(i);
+    // Rows of a procedure without a name came with a segment.
+    const bool unnamed = (row.Kind == RowKind::sid && plan.SidName.empty()) ||
+                         (row.Kind == RowKind::star && plan.StarName.empty());
+    if (unnamed) return AddFix(i);
     switch (row.Kind) {
       case RowKind::sid:
         if (!sidNamed) Add(plan.SidName);

@@ -154,6 +154,7 @@ TEST(PlanReader, BrokenFilesAreToldAndTakeNothingElse) {
       {"cut in the middle of a row", text.substr(0, text.find("WP=5") + 20), 6, "", 1},
       {"a row that is no number", With(text, "WP=3,", "WP=x,"), 8, "", 1},
       {"a row beyond the last", With(text, "WP=3,", "WP=501,"), 8, "", 1},
+      {"a comma within a name", With(text, ",Caf\xe9,", ",Caf\xe9, north,"), 8, "", 1},
       {"a place off the earth", With(text, "-17.2500,178.5000", "-97.2500,178.5000"), 8, "", 1},
       {"line feeds alone, in any order",
        "[VLM]\nWP=2,Int,B,B,-16.5,179.75,0,0,0,1,2\nWP=1,Int,A,A,-17.25,178.5,0,0,0,1,1\nDestAPCode=NSFA\n"
