@@ -31,7 +31,7 @@ fs::path FolderOf(const AppFolder& home, std::string_view stored) {
   if (!text.starts_with('/')) return home.Resolve(text);
   const std::string_view below = BelowHome(home, text);
   if (!below.empty()) return home.Resolve(below);
-  const fs::path asGiven{std::string(text)};
+  fs::path asGiven{std::string(text)};
   std::error_code error;
   if (fs::exists(asGiven, error)) return asGiven;
   std::string separated(text);

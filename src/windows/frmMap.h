@@ -5,8 +5,9 @@
 // frmMap.cpp has the window and the view, frmMap_menus.cpp the menus, bars and
 // keys, frmMap_panels.cpp the status panels, frmMap_gestures.cpp what the
 // pointer does on the map, frmMap_plan_gestures.cpp what it does there to the
-// plan, frmMap_plan.cpp the plan, frmMap_plan_files.cpp its files, frmMap_profile.cpp its vertical picture,
-// frmMap_aircraft.cpp the aircraft and their fuel, frmMap_options.cpp the options.
+// plan, frmMap_plan.cpp the plan, frmMap_plan_files.cpp its files, frmMap_segments.cpp pieces of it,
+// frmMap_profile.cpp its vertical picture, frmMap_aircraft.cpp the aircraft and their fuel,
+// frmMap_options.cpp the options.
 #pragma once
 
 #include <QAction>
@@ -76,6 +77,7 @@ class frmMap : public QMainWindow {
  private:
   // Menus, bars, keys.
   void BuildMenus();
+  void BuildFileMenu();
   void BuildPlanMenu();
   void BuildProceduresMenu(QMenu* plan);
   void BuildAircraftMenu();
@@ -206,6 +208,8 @@ class frmMap : public QMainWindow {
   void KeepUnsavedPlan();
   void DropUnsavedPlan();
   void OfferUnsavedPlan();
+  void AddSegmentItems(QMenu* file);
+  void ShowSegments(bool save);
   void WithFiledPlan(std::string_view head, const std::function<void()>& body);
   void SelectProcedure(ProcedureKind kind);
   void ShowDepArr();

@@ -46,6 +46,7 @@ QAction* frmMap::AddSwitch(const QString& name, const QString& text, bool MapSwi
 }
 
 void frmMap::BuildMenus() {
+  BuildFileMenu();
   BuildPlanMenu();
   BuildAircraftMenu();
   BuildViewMenu();
@@ -54,6 +55,32 @@ void frmMap::BuildMenus() {
   BuildToolsMenu();
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   help->addAction(AddCommand("mnuAbout", tr("&About Velmora"), [this] { ShowAbout(); }));
+}
+
+void frmMap::BuildFileMenu() {
+  QMenu* file = menuBar()->addMenu(tr("&File"));
+  file->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { ClearPlan(); }));
+  file->addSeparator();
+  file->addAction(AddCommand(
+      "mnuOpenFP", tr("&Open..."), [this] { ChoosePlan(); }, "Ctrl+O"));
+  recentMenu = file->addMenu(tr("Open &again"));
+  recentMenu->setObjectName("mnuRecent");
+  connect(file, &QMenu::aboutToShow, this, &frmMap::ListRecentPlans);
+  file->addAction(AddCommand(
+      "mnuImport", tr("&Import plan..."), [this] { ChooseImport(); }, "Ctrl+Alt+O"));
+  file->addSeparator();
+  file->addAction(AddCommand(
+      "mnuSaveFP", tr("&Save"), [this] { SavePlan(); }, "Ctrl+S"));
+  file->addAction(AddCommand(
+      "mnuSaveFPAs", tr("Sa&ve as..."), [this] { SavePlanAs(); }, "Ctrl+Alt+S"));
+  file->addSeparator();
+  AddSegmentItems(file);
+  file->addSeparator();
+  file->addAction(AddCommand(
+      "mnuPrintPlan", tr("&Print the flight plan..."), [this] { PrintPlan(); }, "Ctrl+P"));
+  file->addSeparator();
+  file->addAction(AddCommand(
+      "mnuExit", tr("E&xit"), [this] { close(); }, "Ctrl+Q"));
 }
 
 void frmMap::BuildPlanMenu() {
@@ -92,24 +119,6 @@ void frmMap::BuildPlanMenu() {
   plan->addAction(AddCommand(
       "mnuLevelDown", tr("Low&er the cruise level"), [this] { editor.StepLevel(false); }, "Ctrl+Down"));
   BuildProceduresMenu(plan);
-  plan->addSeparator();
-  plan->addAction(AddCommand("mnuNewFP", tr("&Clear the plan"), [this] { ClearPlan(); }));
-  plan->addAction(AddCommand(
-      "mnuOpenFP", tr("&Open..."), [this] { ChoosePlan(); }, "Ctrl+O"));
-  recentMenu = plan->addMenu(tr("Pic&k a recent plan"));
-  recentMenu->setObjectName("mnuRecent");
-  connect(plan, &QMenu::aboutToShow, this, &frmMap::ListRecentPlans);
-  plan->addAction(AddCommand(
-      "mnuImport", tr("I&mport plan..."), [this] { ChooseImport(); }, "Ctrl+Alt+O"));
-  plan->addAction(AddCommand(
-      "mnuPrintPlan", tr("Print the fli&ght plan..."), [this] { PrintPlan(); }, "Ctrl+P"));
-  plan->addAction(AddCommand(
-      "mnuSaveFP", tr("&Save"), [this] { SavePlan(); }, "Ctrl+S"));
-  plan->addAction(AddCommand(
-      "mnuSaveFPAs", tr("Sa&ve as..."), [this] { SavePlanAs(); }, "Ctrl+Alt+S"));
-  plan->addSeparator();
-  plan->addAction(AddCommand(
-      "mnuExit", tr("E&xit"), [this] { close(); }, "Ctrl+Q"));
 }
 
 void frmMap::BuildAircraftMenu() {

@@ -22,6 +22,8 @@ constexpr std::pair<const char*, bool PlanCommandStates::*> commandStates[] = {
     {"mnuSaveFPAs", &PlanCommandStates::save},
     {"mnuPrintPlan", &PlanCommandStates::print},
     {"mnuSaveFP", &PlanCommandStates::saveAgain},
+    {"mnuOpenSegment", &PlanCommandStates::openSegment},
+    {"mnuSaveSegment", &PlanCommandStates::saveSegment},
     {"mnuManWP", &PlanCommandStates::addWaypoint},
     {"mnuLevelUp", &PlanCommandStates::stepLevel},
     {"mnuLevelDown", &PlanCommandStates::stepLevel},

@@ -189,7 +189,7 @@ void frmMap::DropUnsavedPlan() {
 void frmMap::Begin(const fs::path& plan, bool selectAirports) {
   OfferUnsavedPlan();
   if (!plan.empty()) {
-    OpenPlan(plan);
+    TakePlanFile(plan);
   } else if (selectAirports && session.plan.RowCount() == 0) {
     SelectAirports();
   }

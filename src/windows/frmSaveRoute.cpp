@@ -382,14 +382,14 @@ bool frmSaveRoute::MayReplace(const PlanSaveChoice& choice) {
 void frmSaveRoute::accept() {
   Trapped("Check frmSaveRoute cmdOK (", [&] {
     if (mode == Mode::open) {
-      Open();
+      TakeChosen();
     } else {
       Save();
     }
   });
 }
 
-void frmSaveRoute::Open() {
+void frmSaveRoute::TakeChosen() {
   chosen = flstFPlan->File();
   if (!chosen.empty()) QDialog::accept();
 }

@@ -73,7 +73,7 @@ class frmSaveRoute : public QDialog {
   void SetFPSelection(std::int32_t formats);
   PlanSaveChoice Choice();
   bool MayReplace(const PlanSaveChoice& choice);
-  void Open();
+  void TakeChosen();
   void Save();
 
   Session& session;

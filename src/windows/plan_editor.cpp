@@ -11,6 +11,7 @@
 #include "flightplan/procedures.h"
 #include "flightplan/route_parser.h"
 #include "flightplan/route_string.h"
+#include "flightplan/segment_insertion.h"
 #include "flightplan/waypoint_search.h"
 
 PlanEditor::PlanEditor(Session& session, MessageBox& messages, PointerShape& pointer, QObject* parent)
@@ -122,6 +123,10 @@ bool PlanEditor::OpenPlan(const std::filesystem::path& file) {
   });
   if (opened) Q_EMIT Started();
   return opened;
+}
+
+void PlanEditor::InsertSegment(int afterRow, const std::vector<PlanWaypoint>& rows) {
+  Change("Check frmSaveSegment cmdOK (", [&] { ::InsertSegment(session.plan, Context(), afterRow, rows); });
 }
 
 bool PlanEditor::ImportPlan(const std::filesystem::path& file) {

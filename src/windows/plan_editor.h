@@ -55,6 +55,8 @@ class PlanEditor : public QObject {
   // as it is and is told; what cannot be taken from it goes into the protocol log.
   // True if the plan is the file's now.
   bool OpenPlan(const std::filesystem::path& file);
+  // The rows of a segment behind a row of the plan.
+  void InsertSegment(int afterRow, const std::vector<PlanWaypoint>& rows);
   // The plan of a file that another program wrote (plan_import.h). What was not taken as the file has it is
   // shown and goes into the protocol log. True if the plan is the file's now.
   bool ImportPlan(const std::filesystem::path& file);
