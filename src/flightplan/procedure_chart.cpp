@@ -109,7 +109,8 @@ std::string ProcedureChart::Heading() const {
 std::string ProcedureChart::Text() const {
   if (picked < 0) return {};
   const SidStarEntry& entry = shown[static_cast<std::size_t>(picked)];
-  return kind == ProcedureKind::sid ? DepartureText(entry, database) : ArrivalText(entry, LandingOn(database, airport, runway));
+  return kind == ProcedureKind::sid ? DepartureText(entry, database)
+                                    : ArrivalText(entry, LandingOn(database, airport, runway));
 }
 
 void ProcedureChart::FitView(MapView& view, SurfacePoint page) const {
