@@ -14,6 +14,7 @@
 #include "flightplan/formats/plan_import.h"
 #include "flightplan/plan_file.h"
 #include "flightplan/plan_reader.h"
+#include "flightplan/save_plan.h"
 #include "startup/start_checks.h"
 
 namespace {
@@ -62,16 +63,6 @@ std::optional<std::vector<const PlanFormatInfo*>> NamedFormats(const std::vector
   return formats;
 }
 
-bool HasRunways(const PlanExport& plan) {
-  bool both = true;
-  for (const AirportRec* airport : {&DepartureOf(plan), &DestinationOf(plan)}) {
-    if (airport->lngRunways > 0) continue;
-    both = false;
-    Fail("No flight plan can be filed for airports without runways (" + Utf8(airport->strCode.View()) + ")");
-  }
-  return both;
-}
-
 std::string Stem(const PlanFiles& files, const PlanExport& plan) {
   if (!files.name.empty()) return files.name;
   if (!files.saveAs.empty()) return std::filesystem::path(files.saveAs).stem().string();
@@ -102,14 +93,10 @@ int ExportPlan(const PlanFiles& files, const CliOptions& options, const FlightPl
   std::set<std::string> taken;
   for (const PlanFormatInfo* format : *formats) {
     const std::filesystem::path path = FileFor(*format, files, made, taken);
-    std::string reason;
-    if (format->needsRunways && !HasRunways(made)) {
-      result = exitNotDone;
-    } else if (!ReplaceFile(path, format->write(made), &reason)) {
-      result = Fail("not exported: " + reason);
-    } else {
-      std::cerr << path.string() << '\n';
-    }
+    std::string reason = RunwayFault(made, *format);
+    const bool done = reason.empty() && WriteFormatFile(made, *format, path, reason);
+    if (done) std::cerr << path.string() << '\n';
+    if (!reason.empty()) result = Fail("not exported: " + reason);
   }
   return result;
 }

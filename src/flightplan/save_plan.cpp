@@ -5,9 +5,9 @@
 #include <system_error>
 
 #include "base/files.h"
-#include "flightplan/formats/plan_formats.h"
 #include "flightplan/plan_file_name.h"
 #include "flightplan/plan_folders.h"
+#include "flightplan/plan_reader.h"
 
 namespace fs = std::filesystem;
 
@@ -17,7 +17,7 @@ bool IsTicked(std::int32_t formats, const PlanFormatInfo& format) {
   return (static_cast<std::uint32_t>(formats) >> format.box & 1U) != 0;
 }
 
-bool IsOwnPlan(const PlanFormatInfo& format) {
+bool IsOwnFormat(const PlanFormatInfo& format) {
   return format.box == 0;
 }
 
@@ -26,8 +26,7 @@ bool HoldsOwnPlan(const fs::path& file) {
   std::error_code error;
   if (!fs::is_regular_file(file, error)) return false;
   const std::optional<FileBytes> bytes = ReadWholeFile(file);
-  return bytes &&
-         (bytes->Text().starts_with("[VLM]") || bytes->Text().find("\n[VLM]") != std::string_view::npos);
+  return bytes && IsOwnPlan(bytes->Text());
 }
 
 class PlanSaver {
@@ -63,15 +62,11 @@ class PlanSaver {
   }
 
   bool WriteTo(const PlanFormatInfo& format, const fs::path& file) {
-    const std::string text = format.write(made);
     std::string reason;
-    if (!CreateFolder(file.parent_path(), reason) || !ReplaceFile(file, text, &reason)) {
-      Refuse(format, reason);
-      return false;
-    }
-    written.push_back(file);
-    WriteCompanion(format, file.parent_path());
-    return true;
+    const bool done = CreateFolder(file.parent_path(), reason) && WriteFormatFile(made, format, file, reason);
+    if (done) written.push_back(file);
+    if (!reason.empty()) Refuse(format, reason);
+    return done;
   }
 
   std::vector<fs::path> TakeWritten() { return std::move(written); }
@@ -80,7 +75,7 @@ class PlanSaver {
   void Show(std::string_view text) { saving.context.messages.Show(text, MessageIcon::exclamation); }
 
   void Refuse(const PlanFormatInfo& format, const std::string& reason) {
-    const std::string what = IsOwnPlan(format)
+    const std::string what = IsOwnFormat(format)
                                  ? std::string("The flight plan could not be saved.")
                                  : "The file for " + std::string(format.caption) + " could not be saved.";
     Show(what + "\n\n" + reason);
@@ -95,17 +90,11 @@ class PlanSaver {
     return false;
   }
 
-  void WriteCompanion(const PlanFormatInfo& format, const fs::path& folder) {
-    if (format.companionText == nullptr) return;
-    const fs::path file = folder / format.companionName;
-    std::error_code error;
-    std::string reason;
-    if (!fs::exists(file, error) && !ReplaceFile(file, format.companionText(), &reason))
-      Refuse(format, reason);
-  }
-
   fs::path TryWrite(const PlanFormatInfo& format, const fs::path& planFolder, std::string_view baseName) {
-    if (format.needsRunways && !HaveRunways()) return {};
+    if (const std::string fault = RunwayFault(made, format); !fault.empty()) {
+      Show(fault);
+      return {};
+    }
     made.withProcedures = AskProcedures(format);
     const FormatPlace place = Place(format, planFolder);
     if (place.simulatorMissing && NeedsSimulator(format)) TellSimulator(format, place.folder);
@@ -117,21 +106,12 @@ class PlanSaver {
                          "folder for one of the two.");
       return {};
     }
-    if (!IsOwnPlan(format) && HoldsOwnPlan(file)) {
+    if (!IsOwnFormat(format) && HoldsOwnPlan(file)) {
       Refuse(format, file.string() +
                          ": this is a plan of Velmora, which would be lost. Choose another folder or name.");
       return {};
     }
     return WriteTo(format, file) ? file : fs::path{};
-  }
-
-  bool HaveRunways() {
-    for (const AirportRec* airport : {&DepartureOf(made), &DestinationOf(made)}) {
-      if (airport->lngRunways > 0) continue;
-      Show("No flight plan can be filed for airports without runways (" + airport->strCode.Text() + ")");
-      return false;
-    }
-    return true;
   }
 
   bool AskProcedures(const PlanFormatInfo& format) {
@@ -176,6 +156,24 @@ bool WantsSimulator(std::int32_t formats) {
 
 }  // namespace
 
+std::string RunwayFault(const PlanExport& plan, const PlanFormatInfo& format) {
+  for (const AirportRec* airport : {&DepartureOf(plan), &DestinationOf(plan)}) {
+    if (format.needsRunways && airport->lngRunways <= 0)
+      return "No flight plan can be filed for airports without runways (" + airport->strCode.Text() + ")";
+  }
+  return {};
+}
+
+bool WriteFormatFile(const PlanExport& plan, const PlanFormatInfo& format, const fs::path& file,
+                     std::string& reason) {
+  if (!ReplaceFile(file, format.write(plan), &reason)) return false;
+  if (format.companionText == nullptr) return true;
+  const fs::path companion = file.parent_path() / format.companionName;
+  std::error_code error;
+  if (!fs::exists(companion, error)) ReplaceFile(companion, format.companionText(), &reason);
+  return true;
+}
+
 PlanSaved SavePlan(const PlanSaving& saving, const PlanSaveChoice& choice) {
   PlanSaved saved;
   const std::string baseName = PlanBaseName(choice.name);
@@ -193,7 +191,7 @@ PlanSaved SavePlan(const PlanSaving& saving, const PlanSaveChoice& choice) {
     if (!IsTicked(choice.formats, format)) continue;
     const fs::path file = saver.Write(format, choice.folder, baseName);
     if (file.empty()) ++saved.failures;
-    if (IsOwnPlan(format)) saved.ownFile = file;
+    if (IsOwnFormat(format)) saved.ownFile = file;
   }
   saved.written = saver.TakeWritten();
   saving.settings.FPSEL = choice.formats;
@@ -201,7 +199,7 @@ PlanSaved SavePlan(const PlanSaving& saving, const PlanSaveChoice& choice) {
 }
 
 bool SaveOwnPlan(const PlanSaving& saving, const fs::path& file) {
-  const auto own = std::find_if(PlanFormats().begin(), PlanFormats().end(), IsOwnPlan);
+  const auto own = std::find_if(PlanFormats().begin(), PlanFormats().end(), IsOwnFormat);
   return PlanSaver(saving).WriteTo(*own, file);
 }
 

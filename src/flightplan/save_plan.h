@@ -10,6 +10,7 @@
 
 #include "base/app_folder.h"
 #include "flightplan/flight_plan.h"
+#include "flightplan/formats/plan_formats.h"
 #include "flightplan/plan_context.h"
 #include "settings/settings.h"
 
@@ -49,6 +50,16 @@ PlanSaved SavePlan(const PlanSaving& saving, const PlanSaveChoice& choice);
 // Writes the plan's own format into the file. On failure the pilot is told, the
 // file is as it was, and the result is false.
 bool SaveOwnPlan(const PlanSaving& saving, const std::filesystem::path& file);
+
+// The message about an airport without runways, for a format that needs them;
+// empty if the plan can be written.
+std::string RunwayFault(const PlanExport& plan, const PlanFormatInfo& format);
+
+// Writes one format into the file, whole, and what belongs beside it if it is
+// not there yet. False if the file is as it was. reason is set whenever
+// something could not be written.
+bool WriteFormatFile(const PlanExport& plan, const PlanFormatInfo& format, const std::filesystem::path& file,
+                     std::string& reason);
 
 // Where each ticked format would go, for a question before it is replaced.
 std::vector<std::filesystem::path> PlanFilesOf(const PlanSaving& saving, const PlanSaveChoice& choice);

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QStyle>
 
+#include "base/code_page.h"
 #include "base/error_trap.h"
 #include "base/files.h"
 #include "flightplan/plan_file_name.h"
@@ -28,6 +29,13 @@ QString Utf16(std::string_view text) {
 QStringList Patterns(frmSaveRoute::Mode mode) {
   if (mode == frmSaveRoute::Mode::open) return {"*.pln"};
   return QString("*.pln;*.apl;*.sbp;*sfp;*.rte;*.rt2;*.fpl;*.xml;*.fltplan").split(';');
+}
+
+// What is proposed for a plan without a file: its airports' codes.
+std::string NameByAirports(const FlightPlan& plan) {
+  if (plan.RowCount() < 2) return {};
+  return CodePageToUtf8(plan.Row(0).Code.View()) +
+         CodePageToUtf8(plan.Row(plan.DestinationRow()).Code.View());
 }
 
 QLabel* Caption(const QString& text, QWidget* buddy) {
@@ -72,7 +80,7 @@ frmSaveRoute::frmSaveRoute(Session& session, PlanEditor& editor, MessageBox& mes
   resize(mode == Mode::open ? QSize(720, 620) : QSize(1080, 690));
   Trapped("Check frmSaveRoute Form_Loade (", [&] {
     if (mode == Mode::save) {
-      txtFileName->setText(Utf16(knownFile.empty() ? std::string() : known.Name()));
+      txtFileName->setText(Utf16(knownFile.empty() ? NameByAirports(session.plan) : known.Name()));
       SetFPSelection(session.settings.FPSEL);
     }
     GoTo(folder);

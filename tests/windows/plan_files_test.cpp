@@ -242,6 +242,8 @@ TEST_F(SaveWindow, TakesNameKindAndFormats) {
     EXPECT_TRUE(In<QCheckBox>(dialog, "chckFormat(9)").isChecked());
     EXPECT_FALSE(In<QCheckBox>(dialog, "chckFormat(1)").isChecked());
     EXPECT_EQ(dialog.Folder(), folder.Path() / "FSplan") << "made where no folder is set";
+    EXPECT_EQ(In<QLineEdit>(dialog, "txtFileName").text(), "EDDAEDDB") << "proposed";
+    In<QLineEdit>(dialog, "txtFileName").clear();
     Ok(dialog);
     EXPECT_EQ(messages.texts, std::vector<std::string>{"Please specify file name!"});
     QTest::keyClicks(&In<QLineEdit>(dialog, "txtFileName"), "a/b");
