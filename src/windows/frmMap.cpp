@@ -147,10 +147,15 @@ void frmMap::PaintPicture(DrawSurface& surface) {
   });
 }
 
-void frmMap::SetZoom(int level, bool clearAutozoom) {
+ZoomAnswer frmMap::TakeZoom(int level, bool clearAutozoom) {
   const ZoomAnswer answer = session.view.SetZoom(level, clearAutozoom);
   actions["mnuAutozoom"]->setChecked(session.view.mnuAutozoom);
   if (answer.repaint) DrawMap();
+  return answer;
+}
+
+void frmMap::SetZoom(int level, bool clearAutozoom) {
+  const ZoomAnswer answer = TakeZoom(level, clearAutozoom);
   if (!answer.message.empty()) messages.Show(answer.message, MessageIcon::exclamation);
 }
 
@@ -209,8 +214,9 @@ void frmMap::resizeEvent(QResizeEvent* event) {
   Trapped("frmMap Resize (", [&] {
     ProposeProfile();
     session.view.MapSizeFactor = static_cast<float>(width() * unitsPerPixel / mapSizeUnits);
-    // Stretching the window ends the automatic zoom, opening it does not.
-    SetZoom(session.view.ZoomIndex, opened);
+    // Stretching the window ends the automatic zoom, opening it does not. A range
+    // that this centre cannot have is not the pilot's doing and is not told.
+    TakeZoom(session.view.ZoomIndex, opened);
   });
 }
 

@@ -108,6 +108,8 @@ class frmMap : public QMainWindow {
   void DrawMap();
   void PaintPicture(DrawSurface& surface);
   void KeyDown(int key);
+  // SetZoom() tells why a range is refused.
+  ZoomAnswer TakeZoom(int level, bool clearAutozoom);
   void SetZoom(int level, bool clearAutozoom);
   void TurnWheel(int stepsTowardUser);
   void Pan(float right, float down);

@@ -11,6 +11,7 @@
 #include "settings/settings_file.h"
 #include "startup/fs_version.h"
 #include "startup/start_checks.h"
+#include "windows/window_place.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ frmOptions::frmOptions(Session& session, MessageBox& messages, QWidget* parent)
       applied(edited) {
   setObjectName("frmOptions");
   setWindowTitle(tr("Options"));
-  resize(openingSize);
+  ResizeWithinScreen(*this, openingSize);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(24, 18, 24, 20);
   layout->setSpacing(14);

@@ -12,6 +12,7 @@
 #include "base/files.h"
 #include "windows/code_page_text.h"
 #include "windows/route_map_page.h"
+#include "windows/window_place.h"
 
 namespace {
 
@@ -42,7 +43,7 @@ frmPrintFP::frmPrintFP(Session& session, PlanEditor& editor, MessageBox& message
     : QDialog(parent), session(session), editor(editor), messages(messages), memory(memory) {
   setObjectName("frmPrintFP");
   setWindowTitle(tr("Print the flight plan"));
-  resize(1000, 820);
+  ResizeWithinScreen(*this, QSize(1000, 820));
   print = [this](const PrintedPlan& plan, const QPageSize& paper, const MapDrawer& drawer) {
     return OpenPrinter(plan, paper, drawer);
   };

@@ -14,6 +14,7 @@
 #include "flightplan/plan_file_name.h"
 #include "flightplan/plan_folders.h"
 #include "flightplan/plan_preview.h"
+#include "windows/window_place.h"
 
 namespace {
 
@@ -77,7 +78,7 @@ frmSaveRoute::frmSaveRoute(Session& session, PlanEditor& editor, MessageBox& mes
     BuildFormats(columns);
   }
   BuildButtons(layout);
-  resize(mode == Mode::open ? QSize(720, 620) : QSize(1080, 690));
+  ResizeWithinScreen(*this, mode == Mode::open ? QSize(720, 620) : QSize(1080, 690));
   Trapped("Check frmSaveRoute Form_Loade (", [&] {
     if (mode == Mode::save) {
       txtFileName->setText(Utf16(knownFile.empty() ? NameByAirports(session.plan) : known.Name()));

@@ -14,6 +14,7 @@
 #include "flightplan/procedure_chart.h"
 #include "flightplan/segment_insertion.h"
 #include "windows/code_page_text.h"
+#include "windows/window_place.h"
 
 namespace {
 
@@ -49,7 +50,7 @@ frmSaveSegment::frmSaveSegment(SegmentMode mode, Session& session, PlanEditor& e
     : QDialog(parent), mode(mode), session(session), editor(editor), messages(messages) {
   setObjectName("frmSaveSegment");
   setWindowTitle(mode == SegmentMode::save ? tr(" Save Segment") : tr(" Open Segment"));
-  resize(1060, 660);
+  ResizeWithinScreen(*this, QSize(1060, 660));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(20, 18, 20, 18);
   layout->setSpacing(12);

@@ -1,5 +1,6 @@
 #include "windows/window_place.h"
 
+#include <QScreen>
 #include <algorithm>
 
 namespace {
@@ -44,4 +45,10 @@ void StorePlace(Settings& settings, QRect frame, bool maximised) {
   settings.WINY = frame.y();
   settings.WIDTH = frame.width();
   settings.HEIGHT = frame.height();
+}
+
+void ResizeWithinScreen(QWidget& dialog, const QSize& size) {
+  constexpr QSize frame(20, 50);  // what a window manager puts around it
+  const QScreen* screen = dialog.screen();
+  dialog.resize(screen == nullptr ? size : size.boundedTo(screen->availableSize() - frame));
 }

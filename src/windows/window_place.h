@@ -1,9 +1,10 @@
 // Where the main window opens: at its stored place if that is wanted and still
-// on a screen, else at its first size. Plain rectangles, so that it can be
-// tried with any set of screens.
+// on a screen, else at its first size; and how large its dialogs may be. Plain
+// rectangles, so that it can be tried with any set of screens.
 #pragma once
 
 #include <QRect>
+#include <QWidget>
 #include <vector>
 
 #include "settings/settings.h"
@@ -24,3 +25,6 @@ WindowPlace OpeningPlace(const Settings& settings, QSize firstSize, QSize smalle
 // frame is what the window takes when it is not maximised. Nothing if
 // REMWINPOS is 0.
 void StorePlace(Settings& settings, QRect frame, bool maximised);
+
+// Gives a dialog this size (pixels), or as much of it as its screen has room for.
+void ResizeWithinScreen(QWidget& dialog, const QSize& size);

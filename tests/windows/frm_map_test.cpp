@@ -37,6 +37,13 @@ TEST_F(Window, OpensWithItsControls) {
   EXPECT_FALSE(Find<QAction>("mnuSaveFPAs").isEnabled());
 }
 
+TEST_F(Window, OpensWithAStoredRangeThatItsFirstCentreCannotHave) {
+  session.settings.SCALE = 20;
+  Open();
+  EXPECT_EQ(session.view.ZoomIndex, 19);
+  EXPECT_TRUE(messages.texts.empty()) << messages.texts.front();
+}
+
 struct SwitchCase {
   const char* menu;
   const char* button;
