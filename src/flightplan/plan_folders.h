@@ -1,6 +1,5 @@
-// Where plan files go. Settings hold folders as text: of this system, or below
-// the program's folder in the program's own writing ("\FSplan\RC"), and with or
-// without a "\" at the end. This is the one place that turns them into paths.
+// Where plan files go: the folders that the settings name (stored_folder.h), the
+// simulator's, and those below the program's own.
 #pragma once
 
 #include <filesystem>
@@ -10,16 +9,7 @@
 #include "base/app_folder.h"
 #include "flightplan/formats/plan_formats.h"
 #include "settings/settings.h"
-
-// The folder that a setting names. What is below the program's folder is found
-// in any letter case. Empty for an empty text.
-std::filesystem::path FolderOf(const AppFolder& home, std::string_view stored);
-
-// The text that a setting holds for a folder: with one "\" at its end.
-std::string StoredFolder(const std::filesystem::path& folder);
-
-// True if vlm.ini can hold the text: at most 256 characters, all of them in the code page.
-bool CanBeStored(std::string_view text);
+#include "settings/stored_folder.h"
 
 // FPPATH09 or FPPATH10, by the simulator selected.
 std::string& PlanFolderSetting(Settings& settings);

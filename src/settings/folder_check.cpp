@@ -5,12 +5,13 @@
 #include <filesystem>
 #include <system_error>
 
-#include "base/app_folder.h"
+#include "settings/stored_folder.h"
 
-FolderCheck CheckFolder(std::string_view folder, bool ofSimulator) {
+FolderCheck CheckFolder(const AppFolder& home, std::string_view folder, bool ofSimulator) {
   if (folder.empty()) return {};
-  const std::filesystem::path path{std::string(folder)};
-  if (!path.is_absolute()) return {FolderState::unusable, "The whole path is needed, from / on."};
+  const std::filesystem::path path = FolderOf(home, folder);
+  if (folder.front() != '/' && folder.front() != '\\')
+    return {FolderState::unusable, "The whole path is needed, from / on."};
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(path, error);
   if (status.type() == std::filesystem::file_type::not_found) {
@@ -25,8 +26,8 @@ FolderCheck CheckFolder(std::string_view folder, bool ofSimulator) {
   return {};
 }
 
-std::string CreateFolderFor(std::string_view folder) {
+std::string CreateFolderFor(const AppFolder& home, std::string_view folder) {
   std::error_code error;
-  std::filesystem::create_directories(std::filesystem::path{std::string(folder)}, error);
+  std::filesystem::create_directories(FolderOf(home, folder), error);
   return error ? "It cannot be created: " + error.message() + "." : std::string();
 }

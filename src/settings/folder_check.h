@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/app_folder.h"
+
 enum class FolderState { fine, missing, unusable };
 
 struct FolderCheck {
@@ -12,9 +14,9 @@ struct FolderCheck {
   std::string reason;  // one line for the pilot; empty if it is fine
 };
 
-// folder is UTF-8; empty is fine: it is not set. Missing is what could be
-// created. A simulator's folder must hold scenery.cfg, in any letters.
-FolderCheck CheckFolder(std::string_view folder, bool ofSimulator);
+// folder as a setting holds it (stored_folder.h), UTF-8; empty is fine: it is not set. Missing is what could
+// be created. A simulator's folder must hold scenery.cfg, in any letters.
+FolderCheck CheckFolder(const AppFolder& home, std::string_view folder, bool ofSimulator);
 
 // Creates the folder and those above it. Empty, or why it could not be done.
-std::string CreateFolderFor(std::string_view folder);
+std::string CreateFolderFor(const AppFolder& home, std::string_view folder);

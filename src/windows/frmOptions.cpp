@@ -109,7 +109,7 @@ void frmOptions::BuildRows(QWidget* content) {
       column->addWidget(heading);
       headings.push_back(heading);
     }
-    auto* row = new OptionRow(option, !session.strSwitchZ.empty(), content);
+    auto* row = new OptionRow(option, session.home, !session.strSwitchZ.empty(), content);
     column->addWidget(row);
     rows.push_back(row);
     connect(row, &OptionRow::Changed, this, [this, row] { TakeRow(*row); });

@@ -15,6 +15,7 @@
 #include <cmath>
 
 #include "settings/folder_check.h"
+#include "settings/stored_folder.h"
 
 namespace {
 
@@ -56,8 +57,8 @@ QString AskColor(QWidget* parent, const QString& title, const QString& color,
 
 }  // namespace
 
-OptionRow::OptionRow(const Option& option, bool developer, QWidget* parent)
-    : QFrame(parent), option(option), developer(developer) {
+OptionRow::OptionRow(const Option& option, const AppFolder& home, bool developer, QWidget* parent)
+    : QFrame(parent), option(option), home(home), developer(developer) {
   setObjectName(Name("row_"));
   setProperty("optionRow", true);
   askFolder = [this](const QString& from) {
@@ -262,7 +263,7 @@ void OptionRow::ShowState() {
   if (text != opened) refusal = OptionRefusal(option, text, developer);
   if (text != opened && refusal.empty() && alsoRefused) refusal = alsoRefused(text);
   if (refusal.empty() && IsFolder(option)) {
-    const FolderCheck check = CheckFolder(text, option.kind == OptionKind::simulatorFolder);
+    const FolderCheck check = CheckFolder(home, text, option.kind == OptionKind::simulatorFolder);
     missing = check.state == FolderState::missing;
     (text == opened ? hint : refusal) = check.reason;
   }
@@ -286,7 +287,7 @@ void OptionRow::SetFault(bool fault) {
 }
 
 void OptionRow::Browse() {
-  const QString chosen = askFolder(Utf16(text));
+  const QString chosen = askFolder(Utf16(FolderOf(home, text).string()));
   if (!chosen.isEmpty()) SetText(chosen.toStdString());
 }
 
@@ -298,7 +299,7 @@ void OptionRow::PickColor() {
 }
 
 void OptionRow::CreateFolder() {
-  const std::string reason = CreateFolderFor(text);
+  const std::string reason = CreateFolderFor(home, text);
   ShowState();
   if (!reason.empty()) lblRefusal->setText(Utf16(reason));
   field->setFocus();

@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 
+#include "base/app_folder.h"
 #include "settings/option_list.h"
 
 class QGridLayout;
@@ -16,8 +17,8 @@ class OptionRow : public QFrame {
   Q_OBJECT
 
  public:
-  // option outlives the row. developer: with the developers' bounds.
-  OptionRow(const Option& option, bool developer, QWidget* parent);
+  // option and home outlive the row. developer: with the developers' bounds.
+  OptionRow(const Option& option, const AppFolder& home, bool developer, QWidget* parent);
 
   const Option& Subject() const { return option; }
   std::string Text() const { return text; }
@@ -71,6 +72,7 @@ class OptionRow : public QFrame {
   QString Name(const char* head) const;
 
   const Option& option;
+  const AppFolder& home;
   bool developer;
   std::string text, opened, defaultText, refusal;
   QWidget* field;

@@ -194,6 +194,7 @@ TEST(ColorSets, WhatIsMissingIsTheSetsDefault) {
 TEST(FolderCheck, SaysWhatIsWrong) {
   const TemporaryFolder folder;
   const std::string at = folder.Path().string();
+  const AppFolder home(folder.Path());
   folder.Write("plain.txt", "");
   std::filesystem::create_directory(folder.Path() / "sim");
   const struct {
@@ -203,6 +204,8 @@ TEST(FolderCheck, SaysWhatIsWrong) {
   } cases[] = {
       {"", true, FolderState::fine},
       {at, false, FolderState::fine},
+      {at + "\\", false, FolderState::fine},
+      {"\\SIM\\", false, FolderState::fine},
       {at + "/none/below", false, FolderState::missing},
       {at + "/none", true, FolderState::unusable},
       {"FSplan", false, FolderState::unusable},
@@ -211,15 +214,15 @@ TEST(FolderCheck, SaysWhatIsWrong) {
       {at + "/sim", true, FolderState::unusable},
   };
   for (const auto& c : cases) {
-    const FolderCheck check = CheckFolder(c.folder, c.ofSimulator);
+    const FolderCheck check = CheckFolder(home, c.folder, c.ofSimulator);
     EXPECT_EQ(check.state, c.state) << c.folder;
     EXPECT_EQ(check.reason.empty(), c.state == FolderState::fine) << c.folder;
   }
   folder.Write("sim/Scenery.CFG", "");
-  EXPECT_EQ(CheckFolder(at + "/sim", true).state, FolderState::fine);
-  EXPECT_EQ(CreateFolderFor(at + "/none/below"), "");
-  EXPECT_EQ(CheckFolder(at + "/none/below", false).state, FolderState::fine);
-  EXPECT_NE(CreateFolderFor(at + "/plain.txt/below"), "");
+  EXPECT_EQ(CheckFolder(home, at + "/sim", true).state, FolderState::fine);
+  EXPECT_EQ(CreateFolderFor(home, at + "/none/below"), "");
+  EXPECT_EQ(CheckFolder(home, at + "/none/below", false).state, FolderState::fine);
+  EXPECT_NE(CreateFolderFor(home, at + "/plain.txt/below"), "");
 }
 
 }  // namespace
