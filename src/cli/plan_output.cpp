@@ -15,6 +15,7 @@
 #include "flightplan/plan_file.h"
 #include "flightplan/plan_reader.h"
 #include "flightplan/save_plan.h"
+#include "settings/settings_file.h"
 #include "startup/start_checks.h"
 
 namespace {
@@ -139,6 +140,14 @@ bool OpenPlan(const std::string& path, FlightPlan& plan, const PlanContext& cont
     std::cerr << path << ": " << problem << '\n';
   if (!reading.valid) Fail(path + " was not opened");
   return reading.valid;
+}
+
+bool OpenPlan(const CliOptions& options, const std::string& path, OpenedPlan& opened) {
+  opened.world = OpenWorld(options);
+  if (!opened.world) return false;
+  opened.settings = ReadIni(options.home).settings;
+  opened.aircraft = ChooseAircraft(options, opened.settings, std::nullopt);
+  return opened.aircraft && OpenPlan(path, opened.plan, opened.Context());
 }
 
 int WritePlanFiles(const PlanFiles& files, const CliOptions& options, const FlightPlan& plan,

@@ -25,6 +25,21 @@ void PrintPlan(const CliOptions& options, const FlightPlan& plan, const PlanCont
 // telling that plan is not the file's.
 bool OpenPlan(const std::string& path, FlightPlan& plan, const PlanContext& context);
 
+// A plan from a file and all that it was opened with.
+struct OpenedPlan {
+  std::optional<WorldLoad> world;
+  Settings settings;
+  std::optional<AircraftRec> aircraft;
+  CliMessages messages;
+  FlightPlan plan;
+
+  // Only of a plan that was opened; it refers to its parts.
+  PlanContext Context() { return {world->database, *aircraft, messages, settings.FAFDIST}; }
+};
+
+// Loads the world and opens the plan with the settings' aircraft. False after telling why not.
+bool OpenPlan(const CliOptions& options, const std::string& path, OpenedPlan& opened);
+
 // Saves and exports the plan as asked. A format that cannot be written is told
 // and the others are written all the same; the exit code.
 int WritePlanFiles(const PlanFiles& files, const CliOptions& options, const FlightPlan& plan,

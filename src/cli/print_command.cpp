@@ -7,7 +7,6 @@
 #include "cli/plan_output.h"
 #include "flightplan/printed_plan.h"
 #include "flightplan/route_string.h"
-#include "settings/settings_file.h"
 #include "windows/route_map_page.h"
 
 namespace {
@@ -70,15 +69,9 @@ void AddPrintCommand(CLI::App& app, PrintRequest& request) {
 }
 
 int RunPrint(const CliOptions& options, const PrintRequest& request) {
-  const std::optional<WorldLoad> world = OpenWorld(options);
-  if (!world) return exitNotDone;
-  const Settings settings = ReadIni(options.home).settings;
-  const auto aircraft = ChooseAircraft(options, settings, std::nullopt);
-  if (!aircraft) return exitNotDone;
-  CliMessages messages;
-  const PlanContext context{world->database, *aircraft, messages, settings.FAFDIST};
-  FlightPlan plan;
-  if (!OpenPlan(request.planFile, plan, context)) return exitNotDone;
+  OpenedPlan opened;
+  if (!OpenPlan(options, request.planFile, opened)) return exitNotDone;
+  const FlightPlan& plan = opened.plan;
 
   qputenv("QT_QPA_PLATFORM", "offscreen");
   int argc = 1;
@@ -86,19 +79,19 @@ int RunPrint(const CliOptions& options, const PrintRequest& request) {
   char* argv[] = {name, nullptr};
   const QGuiApplication application(argc, argv);
   const std::string route = RouteStringFromPlan(plan);
-  const PrintedPlan printed =
-      BuildPrintedPlan({plan, context, settings, route, ProceduresOf(options, ProcedureKind::sid, plan),
-                        ProceduresOf(options, ProcedureKind::star, plan)},
-                       ChoicesOf(request));
+  const PrintedPlan printed = BuildPrintedPlan(
+      {plan, opened.Context(), opened.settings, route, ProceduresOf(options, ProcedureKind::sid, plan),
+       ProceduresOf(options, ProcedureKind::star, plan)},
+      ChoicesOf(request));
   const QPageSize paper(PaperNamed(QString::fromStdString(request.paper)));
-  const QByteArray pdf = PdfOf(printed, paper, RouteMapDrawer(plan, world->database, settings));
+  const QByteArray pdf = PdfOf(printed, paper, RouteMapDrawer(plan, opened.world->database, opened.settings));
   const int pages = PagesIn(LayOutPages(printed, paper));
   std::string reason;
   if (!ReplaceFile(request.out, std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())),
                    &reason))
     return Fail("the plan was not printed: " + reason);
   if (options.json)
-    PrintJson({{"out", request.out}, {"pages", pages}, {"messages", messages.ToJson()}});
+    PrintJson({{"out", request.out}, {"pages", pages}, {"messages", opened.messages.ToJson()}});
   else
     std::printf("%s: %d page%s\n", request.out.c_str(), pages, pages == 1 ? "" : "s");
   return exitDone;
