@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QScreen>
+
 namespace {
 
 constexpr QSize firstSize(1600, 1000);
@@ -79,6 +81,15 @@ TEST(WindowPlace, IsWrittenOnlyWhileItIsRemembered) {
   StorePlace(settings, {50, 60, 900, 700}, true);
   EXPECT_EQ(OpeningPlace(settings, firstSize, smallest, {large}).frame, QRect(50, 60, 900, 700));
   EXPECT_EQ(settings.MAPWIN, 2);
+}
+
+TEST(WindowPlace, ADialogFitsItsScreen) {
+  QWidget dialog;
+  ResizeWithinScreen(dialog, QSize(300, 200));
+  EXPECT_EQ(dialog.size(), QSize(300, 200));
+  ResizeWithinScreen(dialog, QSize(300, 20000));
+  EXPECT_EQ(dialog.width(), 300);
+  EXPECT_LT(dialog.height(), dialog.screen()->availableSize().height());
 }
 
 }  // namespace
