@@ -11,6 +11,7 @@
 #include "flightplan/plan_rows.h"
 #include "flightplan/start_positions.h"
 #include "flightplan/waypoint_line.h"
+#include "navdata/airport_search.h"
 #include "navdata/geodesy.h"
 
 namespace {
@@ -111,19 +112,8 @@ void TakeStart(FlightPlan& plan, const PlanContext& context, const PlanText& fil
 
 // The airport of the file's alternate name, of several the one nearest to the destination.
 std::int32_t AlternateOf(const PlanText& file, const FlightPlan& plan, const NavDatabase& database) {
-  const std::string_view name = file.Value("alternate_name");
-  std::int32_t nearest = -1;
-  float least = 0;
-  for (std::int32_t row = 0; !name.empty() && row < database.AirportCount(); ++row) {
-    const AirportRec& airport = database.airports[static_cast<std::size_t>(row)];
-    if (airport.strName.View() != name) continue;
-    const float distance =
-        GreatCircleDistance(plan.DestinationLat, plan.DestinationLon, airport.sngLat, airport.sngLon);
-    if (nearest >= 0 && distance >= least) continue;
-    nearest = row;
-    least = distance;
-  }
-  return nearest;
+  return NearestAirportNamed(database, file.Value("alternate_name"),
+                             {plan.DestinationLat, plan.DestinationLon});
 }
 
 void TakeRows(FlightPlan& plan, const PlanContext& context, const PlanText& file) {

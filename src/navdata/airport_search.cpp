@@ -147,3 +147,17 @@ AirportsFound AirportSearch::Find(std::string_view typed, std::size_t most) cons
     found.rows.push_back(hits[i].row);
   return found;
 }
+
+std::int32_t NearestAirportNamed(const NavDatabase& database, std::string_view name, Position place) {
+  std::int32_t nearest = -1;
+  float least = 0;
+  for (std::int32_t row = 0; !name.empty() && row < database.AirportCount(); ++row) {
+    const AirportRec& airport = database.airports[static_cast<std::size_t>(row)];
+    if (airport.strName.View() != name) continue;
+    const float distance = GreatCircleDistance(place.lat, place.lon, airport.sngLat, airport.sngLon);
+    if (nearest >= 0 && distance >= least) continue;
+    nearest = row;
+    least = distance;
+  }
+  return nearest;
+}

@@ -46,3 +46,7 @@ class AirportSearch {
   std::string folded;
   std::vector<Entry> entries;  // by row, one more at the end
 };
+
+// Of the airports with exactly this name (code page, trimmed) the one nearest to
+// a place, of equally near ones the first; -1 if there is none.
+std::int32_t NearestAirportNamed(const NavDatabase& database, std::string_view name, Position place);

@@ -2,6 +2,7 @@
 // program's name and version as its title and blocks until it is closed.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 constexpr std::string_view productName = "Velmora";
@@ -16,4 +17,9 @@ class MessageBox {
   virtual void Show(std::string_view text, MessageIcon icon) = 0;
   // True for yes.
   virtual bool AskYesNo(std::string_view text, MessageIcon icon) = 0;
+  // The same for a question that can be given up: nothing is cancel. Where nobody
+  // could give it up it is a plain one.
+  virtual std::optional<bool> AskYesNoCancel(std::string_view text, MessageIcon icon) {
+    return AskYesNo(text, icon);
+  }
 };

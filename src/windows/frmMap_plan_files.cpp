@@ -55,10 +55,13 @@ bool frmMap::SavePlan() {
   return saved;
 }
 
-// True if the plan may be replaced: it is saved, or the pilot gives it up.
+// True if the plan may be replaced: it is saved, or the pilot gives it up. False
+// also when he gives up what would have replaced it.
 bool frmMap::MayLosePlan() {
   if (!planFile.Modified(session.plan, session.database)) return true;
-  if (!messages.AskYesNo(savePlanFirstText, MessageIcon::question)) return true;
+  const std::optional<bool> save = messages.AskYesNoCancel(savePlanFirstText, MessageIcon::question);
+  if (!save) return false;
+  if (!*save) return true;
   return planFile.File().empty() ? SavePlanAs() : SavePlan();
 }
 

@@ -104,52 +104,48 @@ void PlanEditor::TakeRoute(const std::string& text) {
   if (session.plan.RowCount() >= 2) Q_EMIT Started();
 }
 
-bool PlanEditor::OpenPlan(const std::filesystem::path& file) {
+bool PlanEditor::TakeFile(std::string_view head, const std::filesystem::path& file, const std::string& what,
+                          const std::function<FileReading(std::string_view bytes)>& read) {
   std::string reason;
   const std::optional<FileBytes> bytes = ReadWholeFile(file, &reason);
   if (!bytes) {
-    messages.Show("The flight plan could not be opened.\n\n" + reason, MessageIcon::exclamation);
+    messages.Show("The flight plan could not be " + what + ".\n\n" + reason, MessageIcon::exclamation);
     return false;
   }
-  bool opened = false;
-  Change("Check frmSaveRoute cmdOK (", [&] {
-    const PlanReading reading = ReadPlan(session.plan, Context(), bytes->Text());
+  bool taken = false;
+  Change(head, [&] {
+    const FileReading reading = read(bytes->Text());
     for (const std::string& problem : reading.problems)
       report.lines.push_back(file.string() + ": " + problem);
-    opened = reading.valid;
-    if (!opened) return;
+    taken = reading.valid;
+    if (!taken) return;
     session.navLog = {};
     fromRouteString = false;
   });
-  if (opened) Q_EMIT Started();
-  return opened;
+  if (taken) Q_EMIT Started();
+  return taken;
+}
+
+bool PlanEditor::OpenPlan(const std::filesystem::path& file) {
+  return TakeFile("Check frmSaveRoute cmdOK (", file, "opened", [&](std::string_view bytes) {
+    const PlanReading reading = ReadPlan(session.plan, Context(), bytes);
+    return FileReading{reading.valid, reading.problems};
+  });
+}
+
+bool PlanEditor::ImportPlan(const std::filesystem::path& file) {
+  PlanImport import;
+  const bool taken = TakeFile("frmMap mnuImport (", file, "imported", [&](std::string_view bytes) {
+    import = ::ImportPlan(session.plan, Context(), bytes);
+    return FileReading{import.valid, import.problems};
+  });
+  const std::string summary = taken ? ImportSummary(import, session.plan) : std::string();
+  if (!summary.empty()) messages.Show(summary, MessageIcon::none);
+  return taken;
 }
 
 void PlanEditor::InsertSegment(int afterRow, const std::vector<PlanWaypoint>& rows) {
   Change("Check frmSaveSegment cmdOK (", [&] { ::InsertSegment(session.plan, Context(), afterRow, rows); });
-}
-
-bool PlanEditor::ImportPlan(const std::filesystem::path& file) {
-  std::string reason;
-  const std::optional<FileBytes> bytes = ReadWholeFile(file, &reason);
-  if (!bytes) {
-    messages.Show("The flight plan could not be imported.\n\n" + reason, MessageIcon::exclamation);
-    return false;
-  }
-  PlanImport import;
-  Change("frmMap mnuImport (", [&] {
-    import = ::ImportPlan(session.plan, Context(), bytes->Text());
-    for (const std::string& problem : import.problems)
-      report.lines.push_back(file.string() + ": " + problem);
-    if (!import.valid) return;
-    session.navLog = {};
-    fromRouteString = false;
-  });
-  if (!import.valid) return false;
-  Q_EMIT Started();
-  const std::string summary = ImportSummary(import, session.plan);
-  if (!summary.empty()) messages.Show(summary, MessageIcon::none);
-  return true;
 }
 
 void PlanEditor::DeleteEnrouteWPs() {

@@ -90,6 +90,14 @@ class PlanEditor : public QObject {
   void Started();
 
  private:
+  // The plan that read() makes of the file's bytes, giving what it could not take as it stands and whether
+  // the plan is the file's now. what: "opened", for the message about a file that cannot be read.
+  struct FileReading {
+    bool valid = false;
+    std::vector<std::string> problems;
+  };
+  bool TakeFile(std::string_view head, const std::filesystem::path& file, const std::string& what,
+                const std::function<FileReading(std::string_view bytes)>& read);
   void Trapped(std::string_view head, const std::function<void()>& body);
   void Restore(std::string_view head, void (PlanHistory::*step)(FlightPlan&));
   void Tell();

@@ -83,6 +83,12 @@ bool QtMessageBox::AskYesNo(std::string_view text, MessageIcon icon) {
   return RunBox(parent, text, icon, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
+std::optional<bool> QtMessageBox::AskYesNoCancel(std::string_view text, MessageIcon icon) {
+  const int answer = RunBox(parent, text, icon, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+  if (answer == QMessageBox::Cancel) return std::nullopt;
+  return answer == QMessageBox::Yes;
+}
+
 void QtPointerShape::SetHourglass(bool on) {
   if (on) {
     QApplication::setOverrideCursor(Qt::WaitCursor);

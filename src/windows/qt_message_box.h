@@ -14,6 +14,7 @@ class QtMessageBox : public MessageBox {
 
   void Show(std::string_view text, MessageIcon icon) override;
   bool AskYesNo(std::string_view text, MessageIcon icon) override;
+  std::optional<bool> AskYesNoCancel(std::string_view text, MessageIcon icon) override;
 
  private:
   QPointer<QWidget> parent;

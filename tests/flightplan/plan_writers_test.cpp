@@ -5,8 +5,10 @@
 
 #include <pugixml.hpp>
 #include <sstream>
+#include <tuple>
 
 #include "flightplan/formats/plan_formats.h"
+#include "flightplan/formats/route_points.h"
 #include "tests/flightplan/plan_cases.h"
 
 namespace {
@@ -147,6 +149,17 @@ TEST(PlanWriters, ADocumentTellsAllFrequenciesOfAKind) {
   for (const pugi::xml_node runway : airport.children("destinationrwy"))
     runways += std::string(runway.child_value("rwyid")) + " ";
   EXPECT_EQ(runways, "07 18 36 ");
+}
+
+TEST(PlanWriters, AFixWithANumberInItsNameIsNoPositionOfThePilots) {
+  for (const auto& [sym, code, kind] :
+       {std::tuple("Int", "FIX07", PointKind::intersection), std::tuple("Fix", "Fix 07", PointKind::user),
+        std::tuple("Uwp", "LAKE", PointKind::user)}) {
+    PlanWaypoint row;
+    row.Sym = std::string_view(sym);
+    row.Code = std::string_view(code);
+    EXPECT_EQ(KindOf(row), kind) << code;
+  }
 }
 
 TEST(PlanWriters, FormatsAreWrittenInTheirFixedOrder) {

@@ -27,14 +27,14 @@ class NoPointer : public PointerShape {
 // A pilot who gives plans up, unless a test says that he saves them first.
 class PilotMessages : public HeardMessages {
  public:
-  bool AskYesNo(std::string_view text, MessageIcon icon) override {
-    if (text != savePlanFirstText) return HeardMessages::AskYesNo(text, icon);
+  std::optional<bool> AskYesNoCancel(std::string_view text, MessageIcon) override {
+    EXPECT_EQ(text, savePlanFirstText);
     ++askedToSave;
     return savesFirst;
   }
 
   int askedToSave = 0;
-  bool savesFirst = false;
+  std::optional<bool> savesFirst = false;  // nothing: goes back
 };
 
 class MapWindow : public testing::Test {

@@ -150,6 +150,12 @@ TEST_F(PlanFiles, AChangedPlanIsNotLostWithoutAQuestion) {
     ChooseFile(file);
     Trigger("mnuOpenFP");
     change();
+    // The pilot goes back.
+    messages.savesFirst.reset();
+    const std::string changed = Codes();
+    lose(how);
+    EXPECT_EQ(Codes(), changed) << how;
+    EXPECT_TRUE(window->isVisible()) << how;
     const int asked = messages.askedToSave;
     // Yes, but the file cannot be written: nothing is lost.
     messages.savesFirst = true;

@@ -1,7 +1,5 @@
 #include "flightplan/formats/export_rows.h"
 
-#include "flightplan/formats/route_points.h"
-
 std::vector<const PlanWaypoint*> RowsBetween(const PlanExport& plan) {
   std::vector<const PlanWaypoint*> rows;
   for (int i = 1; i < plan.plan.DestinationRow(); ++i) {
@@ -17,13 +15,4 @@ std::vector<const PlanWaypoint*> RowsWithAirports(const PlanExport& plan) {
   rows.insert(rows.begin(), &plan.plan.rows.front());
   rows.push_back(&plan.plan.rows.back());
   return rows;
-}
-
-bool IsUserPosition(const PlanWaypoint& row) {
-  const std::string_view code = row.Code.View();
-  return row.Sym == "Uwp" || (code.starts_with("Fix ") && IsNamelessPosition(code));
-}
-
-bool IsAirportRow(const PlanWaypoint& row) {
-  return row.Kind == RowKind::departure || row.Kind == RowKind::destination;
 }

@@ -1,4 +1,4 @@
-// The rows of the plan that a format writes, and what their texts say of them.
+// The rows of the plan that a format writes.
 #pragma once
 
 #include <vector>
@@ -11,8 +11,3 @@ std::vector<const PlanWaypoint*> RowsBetween(const PlanExport& plan);
 
 // RowsBetween with both airports around them.
 std::vector<const PlanWaypoint*> RowsWithAirports(const PlanExport& plan);
-
-// A place of the pilot's own: "Fix " and a number, or one of the pilot's list.
-bool IsUserPosition(const PlanWaypoint& row);
-
-bool IsAirportRow(const PlanWaypoint& row);

@@ -23,19 +23,16 @@ std::string WholeNM(float distance) {
   return FormatPicture(distance, "0") + " NM";
 }
 
-// Codes are capitals of the code page without control characters.
-std::string PlainCode(std::string_view code) {
-  std::string plain = AsciiUpper(Utf8ToCodePage(code));
-  for (char& c : plain)
-    if (static_cast<unsigned char>(c) < ' ' || c == ',') c = ' ';
-  return std::string(Trimmed(plain));
-}
-
+// Text of the code page without control characters and without the commas that part the fields of our file.
 std::string PlainName(std::string_view name) {
   std::string plain = Utf8ToCodePage(name);
   for (char& c : plain)
     if (static_cast<unsigned char>(c) < ' ' || c == ',') c = ' ';
   return std::string(Trimmed(plain));
+}
+
+std::string PlainCode(std::string_view code) {
+  return AsciiUpper(PlainName(code));
 }
 
 // ---- airports
@@ -130,7 +127,7 @@ BestOfKinds Search(const NavDatabase& database, std::string_view code, const Sco
           BestOf(database.fixes, database.fixesByIdent, code, score)};
 }
 
-// "+53.000_+007.000", "N53W010", "Fix 07" and "" name no place but its numbers.
+// "+53.000_+007.000", "Fix 07" and "" are no names.
 bool IsNameless(std::string_view code) {
   return code.empty() || code[0] == '+' || code[0] == '-' || IsNamelessPosition(code);
 }
@@ -208,20 +205,6 @@ AirportMatch MatchAirport(const NavDatabase& database, const ForeignAirport& wan
   }
   if (byCode < 0 || !trustCode) return {};
   return {byCode, wanted.code + " lies " + WholeNM(away) + " from where the file has it"};
-}
-
-std::int32_t AirportNamed(const NavDatabase& database, std::string_view name, Position near) {
-  const std::string wanted = Utf8ToCodePage(name);
-  std::int32_t found = -1;
-  float least = std::numeric_limits<float>::max();
-  for (std::int32_t row = 0; row < database.AirportCount(); ++row) {
-    if (database.airports[static_cast<std::size_t>(row)].strName.View() != wanted) continue;
-    const float distance = Between(near, PlaceOfAirport(database, row));
-    if (distance >= least) continue;
-    found = row;
-    least = distance;
-  }
-  return found;
 }
 
 PointMatch MatchPoint(const NavDatabase& database, const ForeignPoint& point, Position before,

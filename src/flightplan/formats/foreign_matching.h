@@ -25,9 +25,6 @@ struct AirportMatch {
 // place. trustCode: a code counts even when its airport is far from the place.
 AirportMatch MatchAirport(const NavDatabase& database, const ForeignAirport& wanted, bool trustCode);
 
-// Of the airports with this name the one nearest to a place; -1: none. UTF-8.
-std::int32_t AirportNamed(const NavDatabase& database, std::string_view name, Position near);
-
 struct PointMatch {
   std::optional<PlanWaypoint> row;  // none: it has no place and is left out
   std::string problem;              // why it is not the object that the file names; empty: it is

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "flightplan/formats/export_rows.h"
+#include "flightplan/formats/route_points.h"
 
 namespace {
 

@@ -15,6 +15,7 @@
 #include "flightplan/route_parser.h"
 #include "flightplan/route_report.h"
 #include "flightplan/start_positions.h"
+#include "navdata/airport_search.h"
 
 namespace {
 
@@ -286,8 +287,9 @@ class Importer {
     const ForeignAirport& wanted = file.alternate;
     if (wanted.code.empty() && wanted.name.empty()) return;
     const Position destination{plan.DestinationLat, plan.DestinationLon};
-    const std::int32_t row = wanted.code.empty() ? AirportNamed(database, wanted.name, destination)
-                                                 : MatchAirport(database, wanted, true).row;
+    const std::int32_t row = wanted.code.empty()
+                                 ? NearestAirportNamed(database, Utf8ToCodePage(wanted.name), destination)
+                                 : MatchAirport(database, wanted, true).row;
     if (row >= 0) return SetAlternate(plan, context, row);
     problems.Add("the alternate " + (wanted.code.empty() ? wanted.name : wanted.code) +
                  " is not in the database");

@@ -54,12 +54,20 @@ bool IsNamelessPosition(std::string_view code) {
   return !number.empty() && std::all_of(number.begin(), number.end(), IsDigit);
 }
 
+bool IsUserPosition(const PlanWaypoint& row) {
+  const std::string_view code = row.Code.View();
+  return row.Sym == "Uwp" || (code.starts_with("Fix ") && IsNamelessPosition(code));
+}
+
+bool IsAirportRow(const PlanWaypoint& row) {
+  return row.Kind == RowKind::departure || row.Kind == RowKind::destination;
+}
+
 PointKind KindOf(const PlanWaypoint& row) {
-  if (row.Kind == RowKind::departure || row.Kind == RowKind::destination) return PointKind::airport;
+  if (IsAirportRow(row)) return PointKind::airport;
   if (row.Sym == "VOR") return PointKind::vor;
   if (row.Sym == "NDB") return PointKind::ndb;
-  if (row.Sym == "Uwp" || IsNamelessPosition(row.Code.View())) return PointKind::user;
-  return PointKind::intersection;
+  return IsUserPosition(row) ? PointKind::user : PointKind::intersection;
 }
 
 std::string CodeOf(const PlanWaypoint& row) {
@@ -94,9 +102,6 @@ int CruiseFeet(const FlightPlan& plan) {
 }
 
 std::string FourDigitCycle(const PlanExport& plan) {
-  std::string digits;
-  std::copy_if(plan.airacCycle.begin(), plan.airacCycle.end(), std::back_inserter(digits), IsDigit);
-  if (digits.size() == 6) return digits.substr(2);
-  if (digits.size() == 4) return digits;
+  if (!plan.airacCycle.empty()) return plan.airacCycle;
   return CycleOfDay(std::chrono::floor<std::chrono::days>(plan.now));
 }

@@ -9,7 +9,12 @@
 
 enum class PointKind { unknown, airport, vor, ndb, intersection, user };
 
-// "Fix" rows are intersections unless they bear a number for a name ("Fix 07").
+// A place of the pilot's own: "Fix " and a number, or one of the pilot's list.
+bool IsUserPosition(const PlanWaypoint& row);
+
+bool IsAirportRow(const PlanWaypoint& row);
+
+// "Fix" rows are intersections unless they are positions of the pilot's own.
 PointKind KindOf(const PlanWaypoint& row);
 
 // "Airport", "VOR", "NDB", "Intersection", "User": as the simulators' XML plans
@@ -40,5 +45,5 @@ ProcedureName PartsOf(std::string_view procedure);
 // Cruise altitude in feet.
 int CruiseFeet(const FlightPlan& plan);
 
-// "2013.10" as "1310"; an unknown cycle is that of the day.
+// The plan's cycle, "2601"; an unknown one is that of the day.
 std::string FourDigitCycle(const PlanExport& plan);

@@ -10,6 +10,7 @@
 #include "flightplan/formats/export_rows.h"
 #include "flightplan/formats/plain_text.h"
 #include "flightplan/formats/plan_writers.h"
+#include "flightplan/formats/route_points.h"
 
 namespace {
 
